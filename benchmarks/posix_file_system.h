@@ -1,0 +1,37 @@
+// The host's file system, as far as listing and searching demos needs it.
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace zentar {
+
+// Takes paths with backslashes, as the program makes them. Changing anything fails.
+class PosixFileSystem : public FileSystem {
+  public:
+    Status Enumerate(const std::string& folder, const EntryVisitor& visit) override;
+    Result<FileInfo> Info(const std::string& path) override;
+    Result<std::unique_ptr<ReadableFile>> OpenForReading(const std::string& path) override;
+
+    Result<std::unique_ptr<WritableFile>> OpenForWriting(const std::string& /*path*/,
+                                                         WriteMode /*mode*/) override {
+        return FileError::AccessDenied;
+    }
+    Status ClearAttributes(const std::string& /*path*/) override { return FileError::AccessDenied; }
+    Status Rename(const std::string& /*from*/, const std::string& /*to*/) override {
+        return FileError::AccessDenied;
+    }
+    Status Replace(const std::string& /*from*/, const std::string& /*to*/) override {
+        return FileError::AccessDenied;
+    }
+    Status Copy(const std::string& /*from*/, const std::string& /*to*/,
+                bool /*overwrite*/) override {
+        return FileError::AccessDenied;
+    }
+    Status Delete(const std::string& /*path*/) override { return FileError::AccessDenied; }
+    Status CreateFolder(const std::string& /*path*/) override { return FileError::AccessDenied; }
+    Result<std::uint64_t> FreeSpace(const std::string& /*root*/) override {
+        return FileError::AccessDenied;
+    }
+};
+
+}  // namespace zentar

@@ -1,0 +1,16 @@
+// Replacing a file so that a full disk, a kill or a power cut leaves the old file or the new one.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/file_system.h"
+
+namespace zentar {
+
+// Writes `bytes` whole under a temporary name in the same folder (the path and ".new"), flushes and
+// checks it, and puts it in the place of `path` in one step. On failure `path` is untouched and the
+// temporary file is gone, as far as the disk still allows.
+Status ReplaceFileContents(FileSystem& files, const std::string& path, std::string_view bytes);
+
+}  // namespace zentar

@@ -1,0 +1,73 @@
+#include "core/game_folders.h"
+
+#include "core/messages.h"
+#include "core/text.h"
+#include "platform/shell.h"
+
+namespace zentar {
+namespace {
+
+std::string ExecutablePath(const GameInfo& info, const GameState& game) {
+    return game.GameFolder + std::string(info.executable);
+}
+
+bool FileExists(FileSystem& files, const std::string& path) {
+    const Result<FileInfo> info = files.Info(path);
+    return info.Ok() && !info.Value().isFolder;
+}
+
+void UpdateBaseModPath(const GameInfo& info, GameState& game) {
+    game.BaseModPath = game.GameFolder + std::string(info.baseMod) + "\\";
+}
+
+}  // namespace
+
+void DetectInstalledGames(ProgramState& state, FileSystem& files) {
+    for (std::size_t i = 0; i < kGameCount; ++i) {
+        const GameInfo& info = AllGames()[i];
+        GameState& game = state.games[i];
+        const Result<FileInfo> executable = files.Info(ExecutablePath(info, game));
+        if (executable.Ok() && executable.Value().length > 0) {
+            game.GameInstalled = true;
+            if (info.id == kQuake3) {
+                state.Q3BackupFolder = game.GameFolder + "Single-Player Backups\\";
+            }
+        } else {
+            game.GameFolder = state.ProgramFolder.substr(0, 2);
+        }
+        UpdateBaseModPath(info, game);
+    }
+}
+
+bool ChooseGameFolder(ProgramState& state, const Platform& platform) {
+    const GameInfo* info = state.Info();
+    const auto picked = platform.shell.PickFolder(messages::LocateGameFolder(state.settings.Game));
+    if (!picked) {
+        return false;
+    }
+    GameState chosen;
+    chosen.GameFolder = WithBackslash(*picked);
+    if (info == nullptr || !FileExists(platform.files, ExecutablePath(*info, chosen))) {
+        platform.windows.Ask(messages::NotTheGameFolder(state.settings.Game));
+        return false;
+    }
+    GameState& game = *state.Game();
+    game.GameInstalled = true;
+    game.GameFolder = chosen.GameFolder;
+    UpdateBaseModPath(*info, game);
+    if (info->id == kQuake3) {
+        state.Q3BackupFolder = game.GameFolder + "single-player backups\\";
+    }
+    return true;
+}
+
+void CheckGameFolder(ProgramState& state, const Platform& platform) {
+    const GameInfo* info = state.Info();
+    state.GameFolderOK =
+        info == nullptr || FileExists(platform.files, ExecutablePath(*info, *state.Game()));
+    if (!state.GameFolderOK) {
+        platform.windows.Ask(messages::GameFolderUnknown(state.settings.Game));
+    }
+}
+
+}  // namespace zentar

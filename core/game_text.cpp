@@ -1,0 +1,108 @@
+#include "core/game_text.h"
+
+#include <array>
+#include <cstddef>
+
+namespace zentar {
+namespace {
+
+// Windows-1252 for the bytes 80 to 9F; the unassigned ones stand for themselves.
+constexpr std::array<char32_t, 32> kHighControls = {
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+char32_t ToCodePoint(unsigned char byte) {
+    return byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80U] : byte;
+}
+
+// The byte that stands for a code point, or -1.
+int ToByte(char32_t point) {
+    if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) {
+        return static_cast<int>(point);
+    }
+    for (std::size_t i = 0; i < kHighControls.size(); ++i) {
+        if (kHighControls[i] == point) {
+            return static_cast<int>(0x80 + i);
+        }
+    }
+    return -1;
+}
+
+void AppendUtf8(std::string& text, char32_t point) {
+    if (point < 0x80) {
+        text += static_cast<char>(point);
+    } else if (point < 0x800) {
+        text += static_cast<char>(0xC0U | (point >> 6U));
+        text += static_cast<char>(0x80U | (point & 0x3FU));
+    } else {
+        text += static_cast<char>(0xE0U | (point >> 12U));
+        text += static_cast<char>(0x80U | ((point >> 6U) & 0x3FU));
+        text += static_cast<char>(0x80U | (point & 0x3FU));
+    }
+}
+
+// The length of the UTF-8 sequence that starts here, as its first byte says; cut at the text's end.
+std::size_t SequenceLength(std::string_view text, std::size_t at) {
+    const auto lead = static_cast<unsigned char>(text[at]);
+    std::size_t length = 1;
+    if (lead >= 0xF0) {
+        length = 4;
+    } else if (lead >= 0xE0) {
+        length = 3;
+    } else if (lead >= 0xC0) {
+        length = 2;
+    }
+    return length < text.size() - at ? length : text.size() - at;
+}
+
+char32_t DecodeSequence(std::string_view sequence) {
+    const auto lead = static_cast<unsigned char>(sequence[0]);
+    if (sequence.size() == 1) {
+        return lead;
+    }
+    char32_t point = lead & (0xFFU >> (sequence.size() + 1));
+    for (const char c : sequence.substr(1)) {
+        point = (point << 6U) | (static_cast<unsigned char>(c) & 0x3FU);
+    }
+    return point;
+}
+
+}  // namespace
+
+std::string GameTextToUtf8(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char c : bytes) {
+        AppendUtf8(text, ToCodePoint(static_cast<unsigned char>(c)));
+    }
+    return text;
+}
+
+std::string Utf8ToGameText(std::string_view utf8) {
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    for (std::size_t at = 0; at < utf8.size();) {
+        const std::string_view sequence = utf8.substr(at, SequenceLength(utf8, at));
+        const int byte = ToByte(DecodeSequence(sequence));
+        if (byte >= 0) {
+            bytes += static_cast<char>(byte);
+        } else {
+            bytes += sequence;
+        }
+        at += sequence.size();
+    }
+    return bytes;
+}
+
+std::string GameTextOnOneLine(std::string_view bytes) {
+    std::string line(bytes);
+    for (char& c : line) {
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
+            c = ' ';
+        }
+    }
+    return GameTextToUtf8(line);
+}
+
+}  // namespace zentar

@@ -1,0 +1,28 @@
+// The messages of the application core, whole.
+#pragma once
+
+#include <string>
+
+#include "core/program_state.h"
+#include "platform/window_services.h"
+
+namespace zentar::messages {
+
+// "Specify Folder...": the title of the folder picker, and the answer to a folder without the game.
+std::string LocateGameFolder(const GameId& game);
+Message NotTheGameFolder(const GameId& game);
+
+// A command needs the game, and its folder is wrong.
+Message GameFolderUnknown(const GameId& game);
+
+Message CurrentFolders(const ProgramState& state);
+Message FirstRunWelcome();
+Message AboutZentar();
+Message CannotExitYet();
+
+// Preferences.
+std::string LocateRemoteFolder();
+Message SwitchingToExpertMode();
+Message RemoteFolderInvalid();
+
+}  // namespace zentar::messages

@@ -1,0 +1,13 @@
+// Who makes the program, and where it lives on the web.
+#pragma once
+
+#include <string_view>
+
+namespace zentar {
+
+inline constexpr std::string_view kVersionLine = "Zentar v0.99 BETA";
+inline constexpr std::string_view kAuthors = "The Zentar developers";
+// Set at build time with -DZENTAR_WEB_SITE=…
+inline constexpr std::string_view kWebSite = ZENTAR_WEB_SITE;
+
+}  // namespace zentar

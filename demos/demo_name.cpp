@@ -1,0 +1,61 @@
+#include "demos/demo_name.h"
+
+#include "core/text.h"
+
+namespace zentar {
+
+namespace {
+
+// What an entry's extension looks like once the markers stand before it.
+constexpr std::string_view kMarked48 = " .dm3";
+constexpr std::string_view kMarked66 = "  .dm3";
+
+bool EndsWithAnyCase(std::string_view name, std::string_view lowerEnd) {
+    return name.size() >= lowerEnd.size() &&
+           LowerAscii(name.substr(name.size() - lowerEnd.size())) == lowerEnd;
+}
+
+std::string WithOtherEnd(std::string_view name, std::size_t drop, std::string_view end) {
+    return std::string(name.substr(0, name.size() - drop)).append(end);
+}
+
+std::string Marked(std::string_view fileName) {
+    if (EndsWithAnyCase(fileName, kDm48)) {
+        return WithOtherEnd(fileName, kDm48.size(), kMarked48);
+    }
+    if (EndsWithAnyCase(fileName, kDm66)) {
+        return WithOtherEnd(fileName, kDm66.size(), kMarked66);
+    }
+    return std::string(fileName);
+}
+
+}  // namespace
+
+std::optional<std::string> DemoEntry(std::string_view fileName, std::string_view extension) {
+    std::string name = Marked(fileName);
+    if (extension.empty() || !EndsWithAnyCase(name, extension)) {
+        return std::nullopt;
+    }
+    name.resize(name.size() - extension.size());
+    return name;
+}
+
+std::string_view RealExtension(std::string_view entry, std::string_view extension) {
+    // Blanks at the end of another game's demo name are part of the name.
+    if (extension != kDm3) {
+        return extension;
+    }
+    // Two blanks end in one blank too, so they are looked for first.
+    if (entry.ends_with("  ")) {
+        return kDm66;
+    }
+    return entry.ends_with(' ') ? kDm48 : kDm3;
+}
+
+std::string RealPath(std::string_view folder, std::string_view entry, std::string_view extension) {
+    const std::string_view real = RealExtension(entry, extension);
+    const std::size_t markers = real == kDm66 ? 2 : real == kDm48 ? 1 : 0;
+    return std::string(folder).append(entry.substr(0, entry.size() - markers)).append(real);
+}
+
+}  // namespace zentar

@@ -1,0 +1,94 @@
+// The Demos tab: the list of the current mod's demos, its filter, the properties of the selected
+// demo, and the list's popup menu.
+//
+// Its procedures let waiting window messages run before they read files, so any of them can run
+// inside another. Each then looks whether something newer has taken its place, and if so leaves the
+// rest to that.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "core/game_info.h"
+#include "core/program_state.h"
+#include "demos/demo_header.h"
+#include "demos/demo_info.h"
+#include "demos/demo_list.h"
+#include "demos/demo_properties.h"
+#include "demos/demos_tab_controls.h"
+#include "platform/platform.h"
+
+namespace zentar {
+
+class DemosTab {
+  public:
+    // Binds the event procedures. `showPopup` opens the popup menu at the pointer;
+    // `startupFinished` says whether the main window has been activated.
+    DemosTab(ProgramState& state, const Platform& platform, const DemosTabControls& controls,
+             std::function<void()> showPopup, std::function<bool()> startupFinished);
+    DemosTab(const DemosTab&) = delete;
+    DemosTab& operator=(const DemosTab&) = delete;
+
+    // Lists the demos of the current mod anew. Nothing is selected afterwards, unless a reselection
+    // is pending.
+    void RefreshDemoList();
+    // The next rebuild of the list selects this entry, should it then be there.
+    void SetPendingReselection(const std::string& entry);
+    void ResetDemoProperties();
+    // Asks whether the selected file, which is no demo, should be renamed out of the list.
+    void OfferNotADemoRename();
+
+    // For the game refresh.
+    void FillPhraseList(const GameInfo& game);
+    void ArrangeProperties(bool quake3);
+
+    const DemoInfo& SelectedDemo() const { return demo_; }
+
+    void lstDemos_Click();
+    bool lstDemos_KeyDown(Key key);
+    void lstDemos_MouseDown();
+    void chkShowAllDemos_Click();
+    void cmdFilter_Click();
+    void txtDemoFilter_GotFocus();
+    bool txtDemoFilter_KeyDown(Key key);
+    void lstDemoFilter_DblClick();
+    bool lstDemoFilter_KeyDown(Key key);
+    void mnuDemosRefresh_Click();
+
+  private:
+    struct PendingReselection {
+        std::string folder;
+        std::string entry;
+    };
+
+    void BindEvents();
+
+    std::uint64_t ScanFolder();
+    DemoFilter Filter() const;
+    void ShowCount(std::uint64_t total);
+    void SelectPending();
+
+    bool ForceShowAll();
+    void ShowSelectedFile();
+    void ReadSelectedDemo();
+    void TakeHeader(DemoHeader header);
+    void DecideMenu();
+    void UseChosenPhrase();
+
+    ProgramState& state_;
+    Platform platform_;
+    DemosTabControls controls_;
+    DemoProperties properties_;
+    std::function<void()> showPopup_;
+    std::function<bool()> startupFinished_;
+
+    DemoInfo demo_;
+    PendingReselection pending_;
+    // Counted up with every selection and reset, and with every rebuild: how a procedure notices
+    // that another one ran inside it.
+    std::uint64_t selections_ = 0;
+    std::uint64_t refreshes_ = 0;
+};
+
+}  // namespace zentar

@@ -1,0 +1,137 @@
+// The controls of a window, as the program's event procedures see them.
+//
+// A change made by the program raises the same event as one made by the user, since the program's
+// rules are written on that: changing a check box runs its click procedure, selecting an option
+// button that was not selected or another list entry does, and changing a text runs its change
+// procedure. A change that changes nothing raises nothing. An event procedure can therefore run
+// inside another.
+//
+// Texts are UTF-8.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace zentar {
+
+// The keys that event procedures ask about; every other key stays with the control.
+enum class Key : std::uint8_t { F1, F2, F5, Delete, Backspace, Enter };
+
+// The event procedures of one control. A control raises only those that its class names; one that
+// is not set is simply not run.
+struct ControlEvents {
+    std::function<void()> click;
+    std::function<void()> doubleClick;
+    std::function<void()> change;
+    std::function<void()> gotFocus;
+    // The right mouse button went down on the control, or the keyboard asked for its menu.
+    std::function<void()> menuRequested;
+    // Gives true when it used the key up; the control then does not see it.
+    std::function<bool(Key)> keyDown;
+};
+
+enum class SystemColour : std::uint8_t { Window, ButtonFace };
+
+class Control {
+  public:
+    virtual ~Control() = default;
+
+    virtual void SetEvents(ControlEvents events) = 0;
+    // Whether the control itself is enabled; inside a disabled frame it still takes no input.
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool Enabled() const = 0;
+    virtual void SetVisible(bool visible) = 0;
+    virtual bool Visible() const = 0;
+    // The caption, or a text box's content.
+    virtual void SetText(const std::string& text) = 0;
+    virtual std::string Text() const = 0;
+    virtual void SetFocus() = 0;
+    virtual bool HasFocus() const = 0;
+    // Moves the control's upper edge inside its parent, in twips (15 of them are one unit of the
+    // control table, a pixel at 96 dpi).
+    virtual void SetTop(int twips) = 0;
+};
+
+class Label : public Control {};
+
+// A container that draws a caption and a border around its controls. Disabling it keeps input from
+// all of them.
+class Frame : public Control {};
+
+// Raises click.
+class Button : public Control {};
+
+// Raises click when the tick changes, by the user or by the program.
+class CheckBox : public Control {
+  public:
+    virtual void SetChecked(bool checked) = 0;
+    virtual bool Checked() const = 0;
+};
+
+// One of the option buttons that share a parent, of which at most one is selected. Raises click
+// when it becomes selected, by the user or by the program; being cleared raises nothing.
+class OptionButton : public Control {
+  public:
+    // Selecting clears the others of the same parent.
+    virtual void SetSelected(bool selected) = 0;
+    virtual bool Selected() const = 0;
+};
+
+// Raises change, gotFocus and keyDown.
+class TextBox : public Control {
+  public:
+    virtual void SelectAll() = 0;
+    virtual void SetBackground(SystemColour colour) = 0;
+    virtual SystemColour Background() const = 0;
+};
+
+// A list of texts with at most one selected; it shows them in the order given. Raises click when
+// another entry becomes selected, by the user or by the program, and doubleClick, menuRequested and
+// keyDown.
+class ListBox : public Control {
+  public:
+    // Replaces all entries; none is selected afterwards, and no event is raised.
+    virtual void SetItems(const std::vector<std::string>& items) = 0;
+    virtual int Count() const = 0;
+    // The text of an entry, 0 to Count()-1.
+    virtual std::string Item(int index) const = 0;
+    virtual int SelectedIndex() const = 0;  // -1 when none is selected
+    virtual void Select(int index) = 0;     // scrolls it into view; -1 selects none, without event
+    // Selects the entry under the mouse pointer, as a left click there would; nothing happens where
+    // there is none.
+    virtual void SelectAtPointer() = 0;
+    virtual void SetBackground(SystemColour colour) = 0;
+    virtual SystemColour Background() const = 0;
+};
+
+// Raises click when another tab comes to the front, by the user or by the program.
+class TabControl : public Control {
+  public:
+    virtual int SelectedTab() const = 0;
+    virtual void SelectTab(int index) = 0;
+};
+
+// Disabled at first; while enabled, runs its procedure every interval of its table row.
+class Timer {
+  public:
+    virtual ~Timer() = default;
+    virtual void SetTick(std::function<void()> tick) = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool Enabled() const = 0;
+};
+
+// An entry that has no procedure is shown greyed, whatever else is said of it: a command that
+// nobody carries out is not offered.
+class MenuEntry {
+  public:
+    virtual ~MenuEntry() = default;
+    virtual void SetClick(std::function<void()> click) = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool Enabled() const = 0;
+    virtual void SetChecked(bool checked) = 0;
+    virtual bool Checked() const = 0;
+};
+
+}  // namespace zentar

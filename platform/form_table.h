@@ -1,0 +1,108 @@
+// A window described as data: its controls with their places, captions and tooltips, and its menus.
+//
+// The same table builds the real window and the one that tests keep in memory. Rectangles are in
+// units of a pixel at 96 dpi, relative to the parent's client area at the window's designed size.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace zentar {
+
+struct Size {
+    int width = 0;
+    int height = 0;
+    bool operator==(const Size&) const = default;
+};
+
+struct Rect {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    bool operator==(const Rect&) const = default;
+};
+
+enum class ControlKind : std::uint8_t {
+    Label,
+    Button,
+    CheckBox,
+    OptionButton,
+    TextBox,
+    ListBox,
+    Frame,
+    Tab,      // the tab control
+    TabPage,  // a page of the tab control that is its parent; fills it, whatever its rectangle says
+    Timer,    // no window; `interval` milliseconds
+};
+
+// Which edges keep their distance to the parent's edge when the window grows. Both edges of an axis
+// make the control grow; neither is taken as the left or the upper one.
+enum Anchors : std::uint8_t {
+    AnchorLeft = 1,
+    AnchorTop = 2,
+    AnchorRight = 4,
+    AnchorBottom = 8,
+    AnchorTopLeft = AnchorTop | AnchorLeft,
+    AnchorAll = AnchorTopLeft | AnchorRight | AnchorBottom,
+};
+
+// How a control starts out; without any it is enabled, visible, cleared and a tab stop where its
+// kind takes input.
+enum ControlFlags : std::uint16_t {
+    StartsDisabled = 1,
+    StartsHidden = 2,
+    StartsChecked = 4,    // check boxes and option buttons
+    StartsGrey = 8,       // list and text boxes: button-face background
+    Borderless = 16,      // frames: neither border nor caption
+    PressedByEnter = 32,  // buttons
+    Centred = 64,         // labels
+    Heading = 128,        // labels: larger type
+};
+
+struct ControlRow {
+    int id = 0;
+    ControlKind kind = ControlKind::Label;
+    int parent = 0;  // 0 for the window itself; parents stand before their children
+    Rect rect{};
+    std::uint8_t anchors = AnchorTopLeft;
+    const char* caption = "";
+    const char* tooltip = "";
+    std::uint16_t flags = 0;
+    // What a screen reader calls the control, where no caption or label says it.
+    const char* name = "";
+    int icon = 0;      // tab pages and pictures: number of an icon resource
+    int interval = 0;  // timers: milliseconds
+};
+
+enum class MenuKind : std::uint8_t { Menu, Popup, Entry, Separator };
+
+// A line of a menu. A Menu whose parent is 0 stands in the menu bar; one whose parent is another
+// menu is a sub-menu. A Popup opens at the pointer on request.
+struct MenuRow {
+    int id = 0;
+    MenuKind kind = MenuKind::Entry;
+    int parent = 0;
+    const char* caption = "";
+    bool startsDisabled = false;
+};
+
+enum class FormKind : std::uint8_t { Main, Dialog, Splash };
+
+struct FormTable {
+    int id = 0;
+    FormKind kind = FormKind::Main;
+    const char* caption = "";
+    Size clientSize{};  // designed size; also the smallest of a Main window
+    std::span<const ControlRow> controls{};
+    std::span<const MenuRow> menus{};
+};
+
+// Gives each row's rectangle in pixels, relative to its parent's client area, for a window of the
+// given client size in pixels at the given dpi. Timers get an empty rectangle.
+using LayoutFunction = std::function<std::vector<Rect>(
+    const FormTable& table, std::span<const ControlRow> rows, Size client, int dpi)>;
+
+}  // namespace zentar

@@ -1,0 +1,131 @@
+#include "platform/win32/buttons.h"
+
+#include <algorithm>
+
+namespace zentar {
+namespace {
+
+// From this height on, in units, a caption has room for a second line.
+constexpr int kTwoLines = 28;
+
+DWORD Wrapping(const ControlRow& row) { return row.rect.height < kTwoLines ? 0 : BS_MULTILINE; }
+
+bool IsTicked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+void Tick(HWND button, bool ticked) {
+    SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+DWORD PushStyle(const ControlRow& row) {
+    return (row.flags & PressedByEnter) != 0 ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+}
+
+}  // namespace
+
+Win32Button::Win32Button(const ControlPlace& place)
+    : ControlBase(
+          place, {L"BUTTON", WS_TABSTOP | WS_GROUP | PushStyle(place.row) | Wrapping(place.row)}) {}
+
+void Win32Button::OnCommand(WORD code) {
+    if (code == BN_CLICKED) {
+        Raise(&ControlEvents::click);
+    }
+}
+
+std::optional<LRESULT> Win32Button::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // Enter presses the button that has the focus, so that one looks like it.
+    if (message == WM_SETFOCUS) {
+        Send(BM_SETSTYLE, BS_DEFPUSHBUTTON | Wrapping(Row()), TRUE);
+    } else if (message == WM_KILLFOCUS) {
+        Send(BM_SETSTYLE, PushStyle(Row()) | Wrapping(Row()), TRUE);
+    }
+    return ControlBase::OnMessage(message, wParam, lParam);
+}
+
+Win32CheckBox::Win32CheckBox(const ControlPlace& place)
+    : ControlBase(place,
+                  {L"BUTTON", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX | Wrapping(place.row)}),
+      known_((place.row.flags & StartsChecked) != 0) {
+    Tick(Handle(), known_);
+}
+
+void Win32CheckBox::SetChecked(bool checked) {
+    Tick(Handle(), checked);
+    NoteState();
+}
+
+bool Win32CheckBox::Checked() const { return IsTicked(Handle()); }
+
+void Win32CheckBox::OnCommand(WORD code) {
+    if (code == BN_CLICKED) {
+        NoteState();
+    }
+}
+
+void Win32CheckBox::NoteState() {
+    if (known_ != Checked()) {
+        known_ = !known_;
+        Raise(&ControlEvents::click);
+    }
+}
+
+Win32OptionButton::Win32OptionButton(const ControlPlace& place, bool startsRun, OptionGroup& group)
+    : ControlBase(place, {L"BUTTON",
+                          BS_AUTORADIOBUTTON | Wrapping(place.row) | (startsRun ? WS_GROUP : 0)}),
+      group_(group),
+      known_((place.row.flags & StartsChecked) != 0) {
+    group_.buttons.push_back(this);
+    Tick(Handle(), known_);
+    KeepOneStop();
+}
+
+// The Tab key stops at the selected button alone; with none selected, at the first, or the group
+// would be out of the keyboard's reach.
+void Win32OptionButton::KeepOneStop() const {
+    const auto selected =
+        std::find_if(group_.buttons.begin(), group_.buttons.end(),
+                     [](const Win32OptionButton* option) { return option->Selected(); });
+    const Win32OptionButton* stop =
+        selected == group_.buttons.end() ? group_.buttons.front() : *selected;
+    for (const Win32OptionButton* option : group_.buttons) {
+        const LONG_PTR style = GetWindowLongPtrW(option->Handle(), GWL_STYLE);
+        const LONG_PTR wanted = option == stop ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP};
+        if (style != wanted) {
+            SetWindowLongPtrW(option->Handle(), GWL_STYLE, wanted);
+        }
+    }
+}
+
+void Win32OptionButton::SetSelected(bool selected) {
+    if (selected) {
+        for (const Win32OptionButton* option : group_.buttons) {
+            if (option != this && option->Selected()) {
+                Tick(option->Handle(), false);
+            }
+        }
+    }
+    Tick(Handle(), selected);
+    NoteState();
+}
+
+bool Win32OptionButton::Selected() const { return IsTicked(Handle()); }
+
+void Win32OptionButton::OnCommand(WORD code) {
+    // Windows sends this for a button that only got the focus, too.
+    if (code == BN_CLICKED && Selected()) {
+        SetSelected(true);
+    }
+}
+
+void Win32OptionButton::NoteState() {
+    const bool becameSelected = !known_ && Selected();
+    for (Win32OptionButton* option : group_.buttons) {
+        option->known_ = option->Selected();
+    }
+    KeepOneStop();
+    if (becameSelected) {
+        Raise(&ControlEvents::click);
+    }
+}
+
+}  // namespace zentar

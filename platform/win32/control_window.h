@@ -1,0 +1,132 @@
+// What every control of a form has in common: a child window, its row of the table, its events.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/form_table.h"
+#include "platform/win32/surface.h"
+
+namespace zentar {
+
+class ControlWindow;
+class EventDispatcher;
+class FocusKeeper;
+
+// What a control needs of its form.
+class ControlHost {
+  public:
+    virtual ~ControlHost() = default;
+    virtual EventDispatcher& Dispatcher() = 0;
+    virtual FocusKeeper& Focus() = 0;
+    virtual void MoveTop(const ControlRow& row, int twips) = 0;
+    // A control's menu is about to be asked for; a popup opens where that came from.
+    virtual void NoteMenuRequest(bool byKeyboard) = 0;
+};
+
+// Where a control comes to stand.
+struct ControlPlace {
+    ControlHost& host;
+    const ControlRow& row;
+    HINSTANCE instance = nullptr;
+    HWND parent = nullptr;
+    Rect at{};                              // in pixels, inside the parent
+    Surface surface = Surface::WindowFace;  // behind it
+};
+
+// The system's window of a kind of control.
+struct ControlStyle {
+    const wchar_t* windowClass = nullptr;
+    DWORD style = 0;
+    DWORD exStyle = 0;
+};
+
+class ControlWindow {
+  public:
+    ControlWindow(const ControlPlace& place, const ControlStyle& style);
+    ControlWindow(const ControlWindow&) = delete;
+    ControlWindow& operator=(const ControlWindow&) = delete;
+    virtual ~ControlWindow();
+
+    // The control whose window that is; null for a window that is no control.
+    static ControlWindow* Of(HWND window);
+
+    HWND Handle() const { return handle_; }
+    const ControlRow& Row() const { return row_; }
+    virtual Control& AsControl() = 0;
+    // The surface that the control is for those inside it.
+    virtual Surface InnerSurface() const { return surface_; }
+
+    // What the parent is told about the control.
+    virtual void OnCommand(WORD /*code*/) {}
+    virtual void OnNotify(const NMHDR& /*header*/) {}
+    virtual HBRUSH OnColour(HDC context);
+    // After the control got another size or font.
+    virtual void OnLayout() {}
+    // The dpi of the window, at first and whenever it changes.
+    virtual void OnDpi(int /*dpi*/) {}
+    // Raises keyDown; true when the program used the key up.
+    bool RaiseKey(Key key);
+
+    void SetEvents(ControlEvents events) { events_ = std::move(events); }
+    void SetEnabled(bool enabled);
+    bool Enabled() const;
+    void SetVisible(bool visible);
+    bool Visible() const;
+    void SetText(const std::string& text);
+    std::string Text() const;
+    void SetFocus();
+    bool HasFocus() const;
+    void SetTop(int twips);
+
+  protected:
+    // The control's own messages, before the system's window procedure; nothing passes them on.
+    virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    void Raise(std::function<void()> ControlEvents::*event);
+    void RaiseMenuRequest(bool byKeyboard);
+    const ControlEvents& Events() const { return events_; }
+    ControlHost& Host() const { return host_; }
+    // During menuRequested: the keyboard asked, so where the pointer is means nothing.
+    bool KeyboardAsks() const { return keyboardAsks_; }
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(handle_, message, wParam, lParam);
+    }
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void Detach();
+
+    ControlHost& host_;
+    const ControlRow& row_;
+    Surface surface_;
+    HWND handle_ = nullptr;
+    WNDPROC system_ = nullptr;  // the window procedure of the control's kind
+    ControlEvents events_;
+    bool keyboardAsks_ = false;
+};
+
+// Gives a control of the platform's interface the window above.
+template <typename Interface>
+class ControlBase : public Interface, public ControlWindow {
+  public:
+    using ControlWindow::ControlWindow;
+
+    Control& AsControl() override { return *this; }
+    void SetEvents(ControlEvents events) override { ControlWindow::SetEvents(std::move(events)); }
+    void SetEnabled(bool enabled) override { ControlWindow::SetEnabled(enabled); }
+    bool Enabled() const override { return ControlWindow::Enabled(); }
+    void SetVisible(bool visible) override { ControlWindow::SetVisible(visible); }
+    bool Visible() const override { return ControlWindow::Visible(); }
+    void SetText(const std::string& text) override { ControlWindow::SetText(text); }
+    std::string Text() const override { return ControlWindow::Text(); }
+    void SetFocus() override { ControlWindow::SetFocus(); }
+    bool HasFocus() const override { return ControlWindow::HasFocus(); }
+    void SetTop(int twips) override { ControlWindow::SetTop(twips); }
+};
+
+}  // namespace zentar

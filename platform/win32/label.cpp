@@ -1,0 +1,21 @@
+#include "platform/win32/label.h"
+
+namespace zentar {
+namespace {
+
+// From this height on, in units, a label has room for a second line.
+constexpr int kTwoLines = 28;
+
+DWORD LabelStyle(const ControlRow& row) {
+    // SS_NOTIFY makes the mouse see the label at all, for its tooltip.
+    const DWORD alignment = (row.flags & Centred) != 0 ? SS_CENTER : SS_LEFT;
+    return SS_NOPREFIX | SS_NOTIFY | WS_GROUP | alignment |
+           (row.rect.height < kTwoLines ? SS_ENDELLIPSIS : 0);
+}
+
+}  // namespace
+
+Win32Label::Win32Label(const ControlPlace& place)
+    : ControlBase(place, {L"STATIC", LabelStyle(place.row)}) {}
+
+}  // namespace zentar

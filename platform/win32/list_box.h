@@ -1,0 +1,37 @@
+// A list of texts.
+#pragma once
+
+#include "platform/win32/control_window.h"
+
+namespace zentar {
+
+class Win32ListBox : public ControlBase<ListBox> {
+  public:
+    explicit Win32ListBox(const ControlPlace& place);
+
+    void SetItems(const std::vector<std::string>& items) override;
+    int Count() const override;
+    std::string Item(int index) const override;
+    int SelectedIndex() const override;
+    void Select(int index) override;
+    void SelectAtPointer() override;
+    void SetBackground(SystemColour colour) override;
+    SystemColour Background() const override { return background_; }
+
+    void OnCommand(WORD code) override;
+    HBRUSH OnColour(HDC context) override;
+    void OnLayout() override;
+
+  private:
+    class DrawingStopped;
+
+    void NoteSelection();
+    int IndexAt(POINT screen) const;
+    void UpdateWidth();
+
+    int known_ = -1;  // the selection that the program has been told
+    SystemColour background_;
+    HFONT measuredIn_ = nullptr;
+};
+
+}  // namespace zentar

@@ -1,0 +1,24 @@
+// The file system of Windows.
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace zentar {
+
+class Win32FileSystem : public FileSystem {
+  public:
+    Status Enumerate(const std::string& folder, const EntryVisitor& visit) override;
+    Result<FileInfo> Info(const std::string& path) override;
+    Result<std::unique_ptr<ReadableFile>> OpenForReading(const std::string& path) override;
+    Result<std::unique_ptr<WritableFile>> OpenForWriting(const std::string& path,
+                                                         WriteMode mode) override;
+    Status ClearAttributes(const std::string& path) override;
+    Status Rename(const std::string& from, const std::string& to) override;
+    Status Replace(const std::string& from, const std::string& to) override;
+    Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
+    Status Delete(const std::string& path) override;
+    Status CreateFolder(const std::string& path) override;
+    Result<std::uint64_t> FreeSpace(const std::string& root) override;
+};
+
+}  // namespace zentar

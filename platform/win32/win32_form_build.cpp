@@ -1,0 +1,164 @@
+// Makes the window and the controls of a form.
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "platform/win32/accessible_name.h"
+#include "platform/win32/buttons.h"
+#include "platform/win32/label.h"
+#include "platform/win32/list_box.h"
+#include "platform/win32/panel.h"
+#include "platform/win32/tab_control.h"
+#include "platform/win32/text_box.h"
+#include "platform/win32/win32_form.h"
+#include "platform/win32/win32_text.h"
+
+namespace zentar {
+namespace {
+
+const wchar_t* FormClass(HINSTANCE instance, WNDPROC procedure) {
+    constexpr const wchar_t* kName = L"ZentarForm";
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = procedure;
+    windowClass.hInstance = instance;
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    windowClass.lpszClassName = kName;
+    // Fails when it is registered, which is as good.
+    RegisterClassExW(&windowClass);
+    return kName;
+}
+
+}  // namespace
+
+FormStyle FormStyle::Of(FormKind kind) {
+    switch (kind) {
+        case FormKind::Main:
+            return {WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+        case FormKind::Dialog:
+            return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
+                    WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT};
+        case FormKind::Splash:
+            break;
+    }
+    return {WS_POPUP | WS_BORDER | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
+}
+
+// Has its size and, unless it is a dialog that comes over some other window, its place from the
+// start: each later change of a window costs time.
+void Win32Form::CreateFormWindow() {
+    dpi_ = static_cast<int>(GetDpiForSystem());
+    const RECT place = FirstPlace(nullptr);
+    window_.Reset(CreateWindowExW(style_.exStyle, FormClass(session_.instance, Procedure),
+                                  Widen(table_.caption).c_str(), style_.style, place.left,
+                                  place.top, place.right - place.left, place.bottom - place.top,
+                                  nullptr, menus_.TakeBar(), session_.instance, nullptr));
+    SetWindowLongPtrW(window_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    // The monitor may have got another resolution since the user logged on.
+    if (const auto dpi = static_cast<int>(GetDpiForWindow(window_.Get())); dpi != dpi_) {
+        dpi_ = dpi;
+        MoveWindowTo(FirstPlace(nullptr));
+    }
+}
+
+void Win32Form::CreateControls() {
+    places_ = ComputePlaces();
+    for (const ControlRow& row : rows_) {
+        if (row.kind == ControlKind::Timer) {
+            timers_.push_back(
+                std::make_unique<Win32Timer>(window_.Get(), row, session_.dispatcher));
+        } else {
+            CreateControl(row);
+        }
+    }
+}
+
+void Win32Form::CreateControl(const ControlRow& row) {
+    controls_.push_back(MakeControl(PlaceOf(row)));
+    ControlWindow& control = *controls_.back();
+    focus_.AddControl(control.Handle(), row.kind != ControlKind::Tab);
+    if (row.kind == ControlKind::TabPage) {
+        dynamic_cast<Win32TabControl&>(FindControl(row.parent)->AsControl()).AddPage(control);
+    } else {
+        tooltips_->Add(control.Handle(), row.tooltip);
+    }
+}
+
+ControlPlace Win32Form::PlaceOf(const ControlRow& row) {
+    const auto index = static_cast<std::size_t>(&row - rows_.data());
+    ControlPlace place{
+        *this, row, session_.instance, window_.Get(), places_[index], Surface::WindowFace};
+    if (const ControlWindow* parent = FindControl(row.parent)) {
+        place.parent = parent->Handle();
+        place.surface = parent->InnerSurface();
+    }
+    return place;
+}
+
+std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place) {
+    switch (place.row.kind) {
+        case ControlKind::Label:
+            return std::make_unique<Win32Label>(place);
+        case ControlKind::Button:
+            return std::make_unique<Win32Button>(place);
+        case ControlKind::CheckBox:
+            return std::make_unique<Win32CheckBox>(place);
+        case ControlKind::OptionButton: {
+            // The arrow keys move among option buttons that follow each other.
+            const ControlRow* before = &place.row == rows_.data() ? nullptr : &place.row - 1;
+            const bool startsRun = before == nullptr || before->parent != place.row.parent ||
+                                   before->kind != ControlKind::OptionButton;
+            return std::make_unique<Win32OptionButton>(place, startsRun,
+                                                       optionGroups_[place.row.parent]);
+        }
+        case ControlKind::TextBox:
+            return std::make_unique<Win32TextBox>(place);
+        case ControlKind::ListBox:
+            return std::make_unique<Win32ListBox>(place);
+        case ControlKind::Frame:
+            return std::make_unique<Win32Frame>(place);
+        case ControlKind::Tab:
+            return std::make_unique<Win32TabControl>(place);
+        case ControlKind::TabPage:
+            return std::make_unique<Win32TabPage>(place);
+        case ControlKind::Timer:
+            break;
+    }
+    // A kind that no table may have.
+    std::abort();
+}
+
+// The service behind the names takes longer to load than the whole window; nobody is to wait for
+// it.
+void Win32Form::NameControlsOncePainted() {
+    SetTimer(window_.Get(), kNamingTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+void Win32Form::NameControls() {
+    KillTimer(window_.Get(), kNamingTimer);
+    session_.ole.Need();
+    for (const auto& control : controls_) {
+        SetAccessibleName(control->Handle(), control->Row().name);
+    }
+}
+
+void Win32Form::TakeIcons() {
+    if (table_.kind == FormKind::Splash) {
+        // Stands neither in the task bar nor has it a caption.
+        return;
+    }
+    const auto load = [this](int metric) {
+        const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi_));
+        return UniqueIcon(static_cast<HICON>(LoadImageW(session_.instance, MAKEINTRESOURCEW(1),
+                                                        IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+    };
+    UniqueIcon small = load(SM_CXSMICON);
+    UniqueIcon large = load(SM_CXICON);
+    SendMessageW(window_.Get(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.Get()));
+    SendMessageW(window_.Get(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large.Get()));
+    smallIcon_ = std::move(small);
+    largeIcon_ = std::move(large);
+}
+
+}  // namespace zentar

@@ -1,0 +1,103 @@
+// Owners of the system's handles: each closes what it holds, once.
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+namespace zentar {
+
+// Owns one handle. Traits names the handle's type, the value that stands for "none" and how to
+// close one.
+template <typename Traits>
+class UniqueHandle {
+  public:
+    using Type = typename Traits::Type;
+
+    UniqueHandle() = default;
+    explicit UniqueHandle(Type handle) : handle_(handle) {}
+    UniqueHandle(const UniqueHandle&) = delete;
+    UniqueHandle& operator=(const UniqueHandle&) = delete;
+    UniqueHandle(UniqueHandle&& other) noexcept : handle_(other.Release()) {}
+    UniqueHandle& operator=(UniqueHandle&& other) noexcept {
+        if (this != &other) {
+            Reset(other.Release());
+        }
+        return *this;
+    }
+    ~UniqueHandle() { Reset(); }
+
+    Type Get() const { return handle_; }
+    explicit operator bool() const { return handle_ != Traits::None(); }
+
+    // Gives the handle away; the caller closes it.
+    [[nodiscard]] Type Release() { return std::exchange(handle_, Traits::None()); }
+    // False when the system could not close the old one properly.
+    bool Reset(Type handle = Traits::None()) {
+        const Type old = std::exchange(handle_, handle);
+        return old == Traits::None() || Traits::Close(old);
+    }
+
+  private:
+    Type handle_ = Traits::None();
+};
+
+struct FileHandleTraits {
+    using Type = HANDLE;
+    static Type None() { return INVALID_HANDLE_VALUE; }
+    static bool Close(Type handle) { return CloseHandle(handle) != FALSE; }
+};
+
+struct SearchHandleTraits {
+    using Type = HANDLE;
+    static Type None() { return INVALID_HANDLE_VALUE; }
+    static bool Close(Type handle) { return FindClose(handle) != FALSE; }
+};
+
+struct WindowHandleTraits {
+    using Type = HWND;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DestroyWindow(handle) != FALSE; }
+};
+
+struct MenuHandleTraits {
+    using Type = HMENU;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DestroyMenu(handle) != FALSE; }
+};
+
+struct FontHandleTraits {
+    using Type = HFONT;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DeleteObject(handle) != FALSE; }
+};
+
+struct IconHandleTraits {
+    using Type = HICON;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DestroyIcon(handle) != FALSE; }
+};
+
+using UniqueFile = UniqueHandle<FileHandleTraits>;
+using UniqueSearch = UniqueHandle<SearchHandleTraits>;
+using UniqueWindow = UniqueHandle<WindowHandleTraits>;
+using UniqueMenu = UniqueHandle<MenuHandleTraits>;
+using UniqueFont = UniqueHandle<FontHandleTraits>;
+using UniqueIcon = UniqueHandle<IconHandleTraits>;
+
+// A window's device context, given back at the end of the scope.
+class WindowContext {
+  public:
+    explicit WindowContext(HWND window) : window_(window), context_(GetDC(window)) {}
+    WindowContext(const WindowContext&) = delete;
+    WindowContext& operator=(const WindowContext&) = delete;
+    ~WindowContext() { ReleaseDC(window_, context_); }
+
+    HDC Get() const { return context_; }
+
+  private:
+    HWND window_;
+    HDC context_;
+};
+
+}  // namespace zentar

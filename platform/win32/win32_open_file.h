@@ -1,0 +1,15 @@
+// Files that are open.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/file_system.h"
+
+namespace zentar {
+
+Result<std::unique_ptr<ReadableFile>> OpenReadableFile(const std::wstring& nativePath);
+Result<std::unique_ptr<WritableFile>> OpenWritableFile(const std::wstring& nativePath,
+                                                       WriteMode mode);
+
+}  // namespace zentar

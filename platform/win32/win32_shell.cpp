@@ -1,0 +1,95 @@
+#include "platform/win32/win32_shell.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <memory>
+#include <string_view>
+
+#include "platform/win32/win32_text.h"
+
+namespace zentar {
+namespace {
+
+struct TaskMemoryFree {
+    void operator()(void* memory) const { CoTaskMemFree(memory); }
+};
+template <typename T>
+using TaskMemory = std::unique_ptr<T, TaskMemoryFree>;
+
+// The path of the running program, however long.
+std::wstring ProgramPath() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length =
+            GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length < path.size()) {
+            path.resize(length);
+            return path;
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
+// "C:\Games\" as "C:\Games", but "C:\" as it is.
+std::wstring_view WithoutLastSeparator(std::wstring_view folder) {
+    constexpr std::size_t kRootLength = 3;
+    if (folder.size() > kRootLength && folder.back() == L'\\') {
+        folder.remove_suffix(1);
+    }
+    return folder;
+}
+
+// The shell's old call for this stops at 260 characters.
+std::optional<std::string> PathOf(PCIDLIST_ABSOLUTE picked) {
+    void* object = nullptr;
+    if (FAILED(SHCreateItemFromIDList(picked, IID_IShellItem, &object))) {
+        return std::nullopt;
+    }
+    auto* item = static_cast<IShellItem*>(object);
+    PWSTR name = nullptr;
+    const HRESULT named = item->GetDisplayName(SIGDN_FILESYSPATH, &name);
+    item->Release();
+    const TaskMemory<wchar_t> path(name);
+    if (FAILED(named)) {
+        return std::nullopt;
+    }
+    return Narrow(path.get());
+}
+
+}  // namespace
+
+std::string Win32Shell::ProgramFolder() {
+    const std::wstring path = ProgramPath();
+    std::wstring_view folder(path);
+    folder = folder.substr(0, folder.rfind(L'\\') + 1);
+    // A program may have been started by the system's own form of its path.
+    constexpr std::wstring_view kNativePrefix = LR"(\\?\)";
+    if (folder.starts_with(kNativePrefix)) {
+        folder.remove_prefix(kNativePrefix.size());
+    }
+    return Narrow(WithoutLastSeparator(folder));
+}
+
+std::string Win32Shell::WindowsFolder() {
+    std::wstring folder(GetWindowsDirectoryW(nullptr, 0), L'\0');
+    folder.resize(GetWindowsDirectoryW(folder.data(), static_cast<UINT>(folder.size())));
+    return Narrow(WithoutLastSeparator(folder));
+}
+
+std::optional<std::string> Win32Shell::PickFolder(const std::string& title) {
+    session_.ole.Need();
+    const std::wstring wideTitle = Widen(title);
+    BROWSEINFOW browse{};
+    browse.hwndOwner = session_.forms.DialogOwner();
+    browse.lpszTitle = wideTitle.c_str();
+    browse.ulFlags =
+        BIF_RETURNONLYFSDIRS | BIF_DONTGOBELOWDOMAIN | BIF_NEWDIALOGSTYLE | BIF_EDITBOX;
+    const OtherFormsDisabled others(session_.forms, browse.hwndOwner);
+    const TaskMemory<ITEMIDLIST> picked(SHBrowseForFolderW(&browse));
+    return picked ? PathOf(picked.get()) : std::nullopt;
+}
+
+}  // namespace zentar

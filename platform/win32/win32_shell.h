@@ -1,0 +1,21 @@
+// What the program asks of the shell of Windows.
+#pragma once
+
+#include "platform/shell.h"
+#include "platform/win32/win32_session.h"
+
+namespace zentar {
+
+class Win32Shell : public Shell {
+  public:
+    explicit Win32Shell(Win32Session& session) : session_(session) {}
+
+    std::string ProgramFolder() override;
+    std::string WindowsFolder() override;
+    std::optional<std::string> PickFolder(const std::string& title) override;
+
+  private:
+    Win32Session& session_;
+};
+
+}  // namespace zentar

@@ -1,0 +1,84 @@
+#include "platform/win32/win32_window_services.h"
+
+#include <windows.h>
+
+#include <array>
+
+#include "platform/win32/win32_text.h"
+
+namespace zentar {
+namespace {
+
+UINT IconFlag(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::Information:
+            return MB_ICONINFORMATION;
+        case MessageIcon::Exclamation:
+            return MB_ICONEXCLAMATION;
+        case MessageIcon::Question:
+            return MB_ICONQUESTION;
+        case MessageIcon::Critical:
+            break;
+    }
+    return MB_ICONERROR;
+}
+
+UINT Flags(const Message& message) {
+    return IconFlag(message.icon) | (message.buttons == MessageButtons::YesNo ? MB_YESNO : MB_OK) |
+           (message.defaultButton == DefaultButton::Second ? MB_DEFBUTTON2 : MB_DEFBUTTON1);
+}
+
+// Asks the window under the pointer, if it is one of the program's, to choose the pointer anew.
+void RefreshPointer() {
+    POINT place{};
+    GetCursorPos(&place);
+    const HWND window = WindowFromPoint(place);
+    if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) {
+        return;
+    }
+    const LRESULT hit = SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(place.x, place.y));
+    SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                 MAKELPARAM(hit, WM_MOUSEMOVE));
+}
+
+}  // namespace
+
+Answer Win32WindowServices::Ask(const Message& message) {
+    const HWND owner = session_.forms.DialogOwner();
+    const OtherFormsDisabled others(session_.forms, owner);
+    const std::wstring text = Widen(message.text);
+    const std::wstring title = Widen(message.title);
+    int pressed = 0;
+    do {
+        pressed = MessageBoxW(owner, text.c_str(), title.c_str(), Flags(message));
+        // Wine lets a Yes/No box be cancelled, which is no answer.
+    } while (message.buttons == MessageButtons::YesNo && pressed == IDCANCEL);
+    if (message.buttons == MessageButtons::Ok) {
+        return Answer::Ok;
+    }
+    return pressed == IDYES ? Answer::Yes : Answer::No;
+}
+
+void Win32WindowServices::Sound(Beep beep) {
+    MessageBeep(beep == Beep::Information ? MB_ICONINFORMATION : MB_ICONEXCLAMATION);
+}
+
+// Wine remembers that Shift was pressed only for its left and right key, not for either.
+std::uint16_t Win32WindowServices::KeyState(PollKey key) {
+    constexpr std::array<int, 3> kShift = {VK_SHIFT, VK_LSHIFT, VK_RSHIFT};
+    constexpr std::array<int, 3> kControl = {VK_CONTROL, VK_LCONTROL, VK_RCONTROL};
+    int state = 0;
+    for (const int virtualKey : key == PollKey::Shift ? kShift : kControl) {
+        state |= static_cast<std::uint16_t>(GetAsyncKeyState(virtualKey));
+    }
+    return static_cast<std::uint16_t>(state);
+}
+
+void Win32WindowServices::SetPointer(Pointer pointer) {
+    session_.pointer = pointer;
+    RefreshPointer();
+}
+
+void Win32WindowServices::PumpPending() { session_.loop.RunPending(); }
+
+}  // namespace zentar

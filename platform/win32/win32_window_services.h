@@ -1,0 +1,23 @@
+// Message boxes, sounds, key states and the pointer of Windows.
+#pragma once
+
+#include "platform/win32/win32_session.h"
+#include "platform/window_services.h"
+
+namespace zentar {
+
+class Win32WindowServices : public WindowServices {
+  public:
+    explicit Win32WindowServices(Win32Session& session) : session_(session) {}
+
+    Answer Ask(const Message& message) override;
+    void Sound(Beep beep) override;
+    std::uint16_t KeyState(PollKey key) override;
+    void SetPointer(Pointer pointer) override;
+    void PumpPending() override;
+
+  private:
+    Win32Session& session_;
+};
+
+}  // namespace zentar

@@ -1,0 +1,47 @@
+// The services of the windowing system that belong to no single control.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace zentar {
+
+enum class MessageIcon : std::uint8_t { Information, Exclamation, Question, Critical };
+enum class MessageButtons : std::uint8_t { Ok, YesNo };
+enum class DefaultButton : std::uint8_t { First, Second };
+enum class Answer : std::uint8_t { Ok, Yes, No };
+
+// A modal message box, whole. Text lines are separated by CR LF.
+struct Message {
+    std::string title;
+    std::string text;
+    MessageIcon icon = MessageIcon::Information;
+    MessageButtons buttons = MessageButtons::Ok;
+    DefaultButton defaultButton = DefaultButton::First;
+
+    bool operator==(const Message&) const = default;
+};
+
+enum class Beep : std::uint8_t { Information, Exclamation };
+enum class PollKey : std::uint8_t { Shift, Control };
+enum class Pointer : std::uint8_t { Default, Hourglass };
+
+class WindowServices {
+  public:
+    virtual ~WindowServices() = default;
+
+    // Shows the box over whichever window of the program is in front. Closing a Yes/No box is not
+    // possible without an answer. Other event procedures may run meanwhile.
+    virtual Answer Ask(const Message& message) = 0;
+    virtual void Sound(Beep beep) = 0;
+    // The asynchronous state of a key: the high bit says "down now", the low bit "pressed since
+    // the last query".
+    virtual std::uint16_t KeyState(PollKey key) = 0;
+    virtual void SetPointer(Pointer pointer) = 0;
+    // Handles the window messages that are waiting, so that windows repaint. Event procedures may
+    // run inside this call. A request to close the program is put off until the outermost event
+    // procedure has returned.
+    virtual void PumpPending() = 0;
+};
+
+}  // namespace zentar

@@ -1,0 +1,236 @@
+// What tests rely on in the doubles beyond the contracts.
+#include <map>
+
+#include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
+
+#include "tests/contract/file_system_contract.h"
+#include "tests/doubles/faulty_file_system.h"
+#include "tests/doubles/memory_file_system.h"
+#include "tests/doubles/scripted_services.h"
+
+namespace zentar {
+namespace {
+
+// As a program saves: whole under another name, then into place. Gives up at the first failure.
+Status Save(FileSystem& files, bool flushed) {
+    auto file = files.OpenForWriting("C:\\a.tmp", WriteMode::Truncate);
+    if (!file.Ok())
+        return file.Error();
+    const Status wrote = file.Value()->Write("new text");
+    if (!wrote.Ok())
+        return wrote;
+    const Status flush = flushed ? file.Value()->Flush() : Status();
+    if (!flush.Ok())
+        return flush;
+    const Status closed = file.Value()->Close();
+    if (!closed.Ok())
+        return closed;
+    return files.Replace("C:\\a.tmp", "C:\\a.txt");
+}
+
+// What a kill at the given call leaves in a.txt, which held "old text".
+std::string LeftAfterKill(int call, Unflushed unflushed, bool flushed) {
+    MemoryFileSystem memory;
+    memory.AddFile("C:\\a.txt", "old text");
+    FaultyFileSystem files(memory);
+    files.KillAt(call, unflushed);
+    IgnoreFailure(Save(files, flushed));  // a killed program hears of nothing
+    EXPECT_TRUE(files.Killed());
+    return memory.Contents("C:\\a.txt");
+}
+
+}  // namespace
+
+TEST(MemoryFileSystem, AFullDriveKeepsWhatWasWrittenSoFar) {
+    MemoryFileSystem files;
+    files.AddFile("C:\\there.txt", "0123456789");
+    files.SetFreeSpace("C:\\", 5);
+    const auto file = files.OpenForWriting("C:\\a.txt", WriteMode::Truncate);
+    ASSERT_TRUE(file.Ok());
+    EXPECT_TRUE(Succeeded(file.Value()->Write("abc")));
+    EXPECT_TRUE(FailedWith(file.Value()->Write("defg"), FileError::NoSpace));
+    EXPECT_TRUE(Succeeded(file.Value()->Close()));
+    EXPECT_EQ(files.Contents("C:\\a.txt"), "abcde");
+    EXPECT_EQ(files.FreeSpace("C:\\").ValueOr(99), 0U);
+    EXPECT_TRUE(FailedWith(files.Copy("C:\\there.txt", "C:\\b.txt", false), FileError::NoSpace));
+    EXPECT_FALSE(files.Exists("C:\\b.txt"));
+    EXPECT_TRUE(Succeeded(files.Delete("C:\\there.txt")));
+    EXPECT_EQ(files.FreeSpace("C:\\").ValueOr(99), 10U);
+}
+
+TEST(MemoryFileSystem, ACopyOverAFileThatDoesNotFitLosesThatFileAsOnWindows) {
+    MemoryFileSystem files;
+    files.AddFile("C:\\long.txt", "0123456789");
+    files.AddFile("C:\\short.txt", "abc");
+    files.SetFreeSpace("C:\\", 5);
+    EXPECT_TRUE(FailedWith(files.Copy("C:\\long.txt", "C:\\short.txt", true), FileError::NoSpace));
+    EXPECT_FALSE(files.Exists("C:\\short.txt"));
+}
+
+TEST(MemoryFileSystem, FoldersAreEnumeratedInNoUsefulButAlwaysTheSameOrder) {
+    const auto order = [] {
+        MemoryFileSystem files;
+        std::string names;
+        for (const char* name : {"a", "b", "c", "d", "e", "f"}) {
+            files.AddFile(std::string("C:\\x\\") + name, "");
+        }
+        EXPECT_TRUE(Succeeded(files.Enumerate(
+            "C:\\x\\", [&](const FolderEntry& entry) { names += entry.name + " "; })));
+        return names;
+    };
+    EXPECT_EQ(order(), order());
+    EXPECT_EQ(order().find("a b c d e f"), std::string::npos);
+}
+
+TEST(MemoryFileSystem, ReadsAreCountedByPathWhateverItsCase) {
+    MemoryFileSystem files;
+    files.AddFile("C:\\Demo.dm2", "0123456789");
+    std::string bytes(8, '\0');
+    const auto file = files.OpenForReading("c:\\demo.DM2");
+    ASSERT_TRUE(file.Ok());
+    EXPECT_EQ(file.Value()->ReadAt(5, std::as_writable_bytes(std::span(bytes))).ValueOr(0), 5U);
+    EXPECT_EQ(files.Reads("C:\\Demo.dm2").opens, 1);
+    EXPECT_EQ(files.Reads("C:\\Demo.dm2").reads, 1);
+    EXPECT_EQ(files.Reads("C:\\Demo.dm2").bytes, 5U);
+    EXPECT_EQ(files.TotalOpens(), 1);
+}
+
+TEST(MemoryFileSystem, ProtectedFilesAndFoldersRefuseAccess) {
+    MemoryFileSystem files;
+    files.AddFile("C:\\Windows\\a.txt", "a");
+    files.SetWritingDenied("C:\\Windows");
+    EXPECT_FALSE(files.OpenForWriting("C:\\Windows\\b.txt", WriteMode::Truncate).Ok());
+    EXPECT_TRUE(FailedWith(files.Delete("C:\\Windows\\a.txt"), FileError::AccessDenied));
+    EXPECT_TRUE(FailedWith(files.CreateFolder("C:\\Windows\\x"), FileError::AccessDenied));
+    files.SetReadingDenied("C:\\Windows\\a.txt");
+    EXPECT_FALSE(files.OpenForReading("C:\\Windows\\a.txt").Ok());
+    files.RemoveDrive("C:\\");
+    EXPECT_TRUE(FailedWith(files.Enumerate("C:\\Windows\\", {}), FileError::NotFound));
+}
+
+TEST(FaultyFileSystem, TheChosenCallFailsAndNoOther) {
+    MemoryFileSystem memory;
+    FaultyFileSystem files(memory);
+    EXPECT_TRUE(Succeeded(Save(files, true)));
+    EXPECT_EQ(files.Calls(), (std::vector<std::string>{
+                                 "OpenForWriting C:\\a.tmp", "Write C:\\a.tmp", "Flush C:\\a.tmp",
+                                 "Close C:\\a.tmp", "Replace C:\\a.tmp -> C:\\a.txt"}));
+    for (int call = 1; call <= 5; ++call) {
+        files.Restart();
+        files.FailAt(call, FileError::AccessDenied);
+        EXPECT_TRUE(FailedWith(Save(files, true), FileError::AccessDenied)) << call;
+        EXPECT_EQ(files.CallCount(), call);
+        EXPECT_TRUE(Succeeded(Save(files, true))) << files.CallName(call);
+    }
+    files.Restart();
+    files.FailFrom(3, FileError::InUse);
+    EXPECT_FALSE(Save(files, true).Ok());
+    EXPECT_TRUE(FailedWith(Save(files, true), FileError::InUse));
+}
+
+TEST(FaultyFileSystem, ADiskThatFillsUpTakesHalfOfAWrite) {
+    MemoryFileSystem memory;
+    FaultyFileSystem files(memory);
+    files.FailAt(2, FileError::NoSpace);
+    EXPECT_TRUE(FailedWith(Save(files, true), FileError::NoSpace));
+    EXPECT_EQ(memory.Contents("C:\\a.tmp"), "new ");
+}
+
+TEST(FaultyFileSystem, AKilledProgramLeavesTheOldFileOrTheNewOne) {
+    for (const Unflushed unflushed : {Unflushed::Kept, Unflushed::Halved, Unflushed::Lost}) {
+        for (int call = 1; call <= 5; ++call) {
+            EXPECT_EQ(LeftAfterKill(call, unflushed, true), "old text");
+        }
+    }
+}
+
+TEST(FaultyFileSystem, APowerFailureHurtsAFileThatWasNotFlushed) {
+    const auto left = [](Unflushed unflushed) {
+        MemoryFileSystem memory;
+        memory.AddFile("C:\\a.txt", "old text");
+        FaultyFileSystem files(memory);
+        files.KillAt(5, unflushed);
+        EXPECT_TRUE(Succeeded(Save(files, false)));
+        EXPECT_FALSE(files.Info("C:\\a.txt").Ok());  // the call at which it dies
+        return memory.Contents("C:\\a.txt");
+    };
+    EXPECT_EQ(left(Unflushed::Kept), "new text");
+    EXPECT_EQ(left(Unflushed::Halved), "new ");
+    EXPECT_EQ(left(Unflushed::Lost), "");
+}
+
+TEST(FaultyFileSystem, APowerFailureFindsAnUnflushedFileUnderItsNewName) {
+    MemoryFileSystem memory;
+    FaultyFileSystem files(memory);
+    files.KillAt(5, Unflushed::Lost);
+    {
+        const auto file = files.OpenForWriting("C:\\a.tmp", WriteMode::Truncate);
+        ASSERT_TRUE(file.Ok());
+        EXPECT_TRUE(Succeeded(file.Value()->Write("text")));
+        EXPECT_TRUE(Succeeded(file.Value()->Close()));
+    }
+    EXPECT_TRUE(Succeeded(files.Rename("C:\\a.tmp", "C:\\a.txt")));
+    EXPECT_EQ(memory.Contents("C:\\a.txt"), "text");
+    EXPECT_FALSE(files.Delete("C:\\a.txt").Ok());
+    EXPECT_EQ(memory.AllFiles(), (std::map<std::string, std::string>{{"C:\\a.txt", ""}}));
+}
+
+TEST(FaultyFileSystem, AKilledProgramLeavesAnOpenFileAsFarAsItWasWritten) {
+    MemoryFileSystem memory;
+    memory.AddFile("C:\\q3config.cfg", "bind a\n");
+    for (const auto& [unflushed, expected] :
+         {std::pair{Unflushed::Lost, "bind a\n"}, std::pair{Unflushed::Halved, "bind a\nbin"},
+          std::pair{Unflushed::Kept, "bind a\nbinbind b\n"}}) {
+        FaultyFileSystem files(memory);
+        files.KillAt(3, unflushed);
+        const auto file = files.OpenForWriting("C:\\q3config.cfg", WriteMode::Append);
+        ASSERT_TRUE(file.Ok());
+        EXPECT_TRUE(Succeeded(file.Value()->Write("bind b\n")));
+        EXPECT_FALSE(file.Value()->Flush().Ok());
+        EXPECT_EQ(memory.Contents("C:\\q3config.cfg"), expected);
+    }
+}
+
+TEST(ScriptedWindows, ABoxThatIsNotAsExpectedFailsTheTest) {
+    const Message expected{"Confirm", "Really?", MessageIcon::Question, MessageButtons::YesNo,
+                           DefaultButton::Second};
+    Message other = expected;
+    other.defaultButton = DefaultButton::First;
+    ScriptedWindows windows;
+    windows.Expect(expected, Answer::Yes);
+    EXPECT_EQ(windows.Ask(expected), Answer::Yes);
+    windows.Expect(expected, Answer::Yes);
+    EXPECT_NONFATAL_FAILURE(windows.Ask(other), "first button is the default");
+    EXPECT_NONFATAL_FAILURE(windows.Ask(other), "nobody expected");
+    windows.Expect(expected, Answer::Yes);
+    EXPECT_NONFATAL_FAILURE(windows.Verify(), "never came");
+}
+
+TEST(ScriptedWindows, AHeldKeyWasPressedOnlyOnce) {
+    ScriptedWindows windows;
+    windows.SetKeyState(PollKey::Shift, 0x8001);
+    EXPECT_EQ(windows.KeyState(PollKey::Shift), 0x8001);
+    EXPECT_EQ(windows.KeyState(PollKey::Shift), 0x8000);
+    EXPECT_EQ(windows.KeyState(PollKey::Control), 0);
+}
+
+TEST(ScriptedShell, AFolderDialogThatIsNotAsExpectedFailsTheTest) {
+    ScriptedShell shell;
+    EXPECT_NONFATAL_FAILURE(static_cast<void>(shell.PickFolder("Where?")), "nobody expected");
+    shell.ExpectPick("Where?", "C:\\Games");
+    EXPECT_EQ(shell.PickFolder("Where?"), "C:\\Games");
+    shell.ExpectPick("Where?", std::nullopt);
+    EXPECT_NONFATAL_FAILURE(shell.Verify(), "never came");
+}
+
+TEST(EventLog, StepsOutOfTheirOrderAreTold) {
+    EventLog log;
+    log.Add("a");
+    log.Add("b");
+    EXPECT_TRUE(log.Ordered({"a", "b"}));
+    EXPECT_FALSE(log.Ordered({"b", "a"}));
+    EXPECT_FALSE(log.Ordered({"c"}));
+}
+
+}  // namespace zentar

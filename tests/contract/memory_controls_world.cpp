@@ -1,0 +1,89 @@
+// The controls contract, kept by the doubles.
+#include "tests/contract/controls_contract.h"
+#include "tests/doubles/memory_platform.h"
+
+namespace zentar {
+namespace {
+
+MemoryForm& InMemory(Form& form) { return dynamic_cast<MemoryForm&>(form); }
+
+class MemoryControlsWorld : public ControlsWorld {
+  public:
+    std::unique_ptr<Form> Create(const FormTable& table) override {
+        return platform_.forms.Create(table);
+    }
+    void PumpPending() override { platform_.windows.PumpPending(); }
+
+    // Shown windows come to the front here, as Windows brings them there.
+    void Settle() override {
+        for (const int id : {kMainForm, kDialogForm}) {
+            if (!platform_.forms.Exists(id))
+                continue;
+            MemoryForm& form = platform_.forms.Get(id);
+            if (form.Shown() && !activated_[id])
+                form.Activate();
+            activated_[id] = form.Shown();
+        }
+    }
+
+    void SettleUntil(Form& form, int timer, const std::function<bool()>& condition) override {
+        while (!condition())
+            InMemory(form).FireTimer(timer);
+    }
+
+    void Click(Form& form, int id) override {
+        InMemory(form).UserClick(id);
+        Settle();
+    }
+    void ClickEntry(Form& form, int list, int index) override {
+        InMemory(form).UserSelect(list, index);
+    }
+    void DoubleClickEntry(Form& form, int list, int index) override {
+        InMemory(form).UserDoubleClick(list, index);
+    }
+    void RightClickEntry(Form& form, int list, int index) override {
+        InMemory(form).UserRightClick(list, index);
+    }
+    void ClickTab(Form& form, int tab, int index) override {
+        InMemory(form).UserSelectTab(tab, index);
+    }
+    void Type(Form& form, std::string_view text) override { InMemory(form).UserType(text); }
+    void Press(Form& form, Key key) override { InMemory(form).UserKey(key); }
+    void PickMenu(Form& form, int id) override { InMemory(form).UserPickMenu(id); }
+    void CloseWindow(Form& form) override {
+        InMemory(form).UserClose();
+        Settle();
+    }
+
+    void PickFromPopup(Form& form, int /*downs*/, int id) override {
+        InMemory(form).SetPopupUser([&form, id](int) { InMemory(form).UserPickMenu(id); });
+    }
+    void DismissPopup(Form& form) override { InMemory(form).SetPopupUser({}); }
+    void InModal(Form& form, std::function<void()> user) override {
+        platform_.forms.SetUser(InMemory(form).Table().id, [user](MemoryForm&) { user(); });
+    }
+
+    bool TakesInput(Form& form, int id) override { return InMemory(form).CanReach(id); }
+    bool Seen(Form& form, int id) override { return InMemory(form).EffectivelyVisible(id); }
+    bool Shown(Form& form) override { return InMemory(form).Shown(); }
+    int TopTwips(Form& form, int id) override { return InMemory(form).TopTwips(id); }
+
+  private:
+    MemoryPlatform platform_;
+    std::map<int, bool> activated_;
+};
+
+std::unique_ptr<ControlsWorld> MakeMemoryControlsWorld() {
+    return std::make_unique<MemoryControlsWorld>();
+}
+
+const auto kMemory = testing::Values(&MakeMemoryControlsWorld);
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Memory, ButtonsContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, TextAndListContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, FocusContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, FormContract, kMemory);
+
+}  // namespace zentar

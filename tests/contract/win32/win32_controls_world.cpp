@@ -1,0 +1,165 @@
+// The controls contract, kept by the windows of Windows.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <chrono>
+#include <map>
+
+#include "tests/contract/controls_contract.h"
+#include "tests/contract/win32/the_platform.h"
+#include "tests/contract/win32/win32_user.h"
+
+namespace zentar {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// A step that never comes ends the test after this time, and fails it.
+constexpr auto kPatience = std::chrono::seconds(20);
+// The window manager answers a shown or closed window only some time later.
+constexpr DWORD kQuietMilliseconds = 60;
+
+WPARAM VirtualKeyOf(Key key) {
+    constexpr WPARAM kKeys[] = {VK_F1, VK_F2, VK_F5, VK_DELETE, VK_BACK, VK_RETURN};
+    return kKeys[static_cast<std::size_t>(key)];
+}
+
+class Win32ControlsWorld : public ControlsWorld {
+  public:
+    ~Win32ControlsWorld() override { Settle(); }
+
+    std::unique_ptr<Form> Create(const FormTable& table) override {
+        std::unique_ptr<Form> form = ThePlatform().Services().forms.Create(table);
+        windows_[form.get()] = FindTopWindow(table.caption);
+        return form;
+    }
+
+    void PumpPending() override {
+        ThePlatform().Services().windows.PumpPending();
+        // The main window's end would end the message loop for the tests after this one, too.
+        MSG quit{};
+        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+
+    void Settle() override {
+        do {
+            PumpPending();
+        } while (MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
+                 WAIT_TIMEOUT);
+    }
+
+    void SettleUntil(Form& /*form*/, int /*timer*/,
+                     const std::function<bool()>& condition) override {
+        const auto end = Clock::now() + kPatience;
+        while (!condition() && Clock::now() < end) {
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT);
+            PumpPending();
+        }
+        EXPECT_TRUE(condition());
+    }
+
+    void Click(Form& form, int id) override {
+        PostClick(Of(form, id), MiddleOf(Of(form, id)));
+        Settle();
+    }
+    void ClickEntry(Form& form, int list, int index) override {
+        PostClick(Of(form, list), MiddleOfEntry(Of(form, list), index));
+        Settle();
+    }
+    void DoubleClickEntry(Form& form, int list, int index) override {
+        PostDoubleClick(Of(form, list), MiddleOfEntry(Of(form, list), index));
+        Settle();
+    }
+    void RightClickEntry(Form& form, int list, int index) override {
+        PostRightClick(Of(form, list), MiddleOfEntry(Of(form, list), index));
+        Settle();
+    }
+    void ClickTab(Form& form, int tab, int index) override {
+        RECT rect{};
+        SendMessageW(Of(form, tab), TCM_GETITEMRECT, static_cast<WPARAM>(index),
+                     reinterpret_cast<LPARAM>(&rect));
+        PostClick(Of(form, tab), MiddleOf(rect));
+        Settle();
+    }
+    void Type(Form& /*form*/, std::string_view text) override {
+        PostText(GetFocus(), text);
+        Settle();
+    }
+    void Press(Form& /*form*/, Key key) override {
+        PostKey(GetFocus(), VirtualKeyOf(key));
+        Settle();
+    }
+    void PickMenu(Form& form, int id) override {
+        PostMessageW(Top(form), WM_COMMAND, MAKEWPARAM(id, 0), 0);
+        Settle();
+    }
+    void CloseWindow(Form& form) override {
+        PostMessageW(Top(form), WM_SYSCOMMAND, SC_CLOSE, 0);
+        Settle();
+    }
+
+    void PickFromPopup(Form& form, int downs, int /*id*/) override {
+        InPopup(form, [downs](HWND top) {
+            for (int i = 0; i < downs; ++i)
+                PostKey(top, VK_DOWN);
+            PostKey(top, VK_RETURN);
+        });
+    }
+    void DismissPopup(Form& form) override {
+        InPopup(form, [](HWND top) { PostKey(top, VK_ESCAPE); });
+    }
+    void InModal(Form& form, std::function<void()> user) override {
+        TryMeanwhile([this, &form, user] {
+            if (!Shown(form))
+                return false;
+            Settle();
+            user();
+            return true;
+        });
+    }
+
+    bool TakesInput(Form& form, int id) override { return MouseReaches(Of(form, id)); }
+    bool Seen(Form& form, int id) override { return IsWindowVisible(Of(form, id)) != FALSE; }
+    bool Shown(Form& form) override { return IsWindowVisible(Top(form)) != FALSE; }
+
+    int TopTwips(Form& form, int id) override {
+        const HWND control = Of(form, id);
+        RECT rect{};
+        GetWindowRect(control, &rect);
+        POINT corner{rect.left, rect.top};
+        ScreenToClient(GetParent(control), &corner);
+        const auto dpi = static_cast<int>(GetDpiForWindow(control));
+        return MulDiv(corner.y, 96 * 15, dpi);
+    }
+
+  private:
+    HWND Top(Form& form) const { return windows_.at(&form); }
+    HWND Of(Form& form, int id) const { return FindControlWindow(Top(form), id); }
+
+    void InPopup(Form& form, std::function<void(HWND)> keys) {
+        TryMeanwhile([top = Top(form), keys] {
+            if (FindWindowW(L"#32768", nullptr) == nullptr)
+                return false;
+            keys(top);
+            return true;
+        });
+    }
+
+    std::map<Form*, HWND> windows_;
+};
+
+std::unique_ptr<ControlsWorld> MakeWin32ControlsWorld() {
+    return std::make_unique<Win32ControlsWorld>();
+}
+
+const auto kWin32 = testing::Values(&MakeWin32ControlsWorld);
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Win32, ButtonsContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, TextAndListContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, FocusContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, FormContract, kWin32);
+
+}  // namespace zentar

@@ -1,0 +1,86 @@
+// What only a user of the real Windows sees of the services: message boxes, keys, folders.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "platform/shell.h"
+#include "platform/win32/win32_text.h"
+#include "platform/window_services.h"
+#include "tests/contract/win32/the_platform.h"
+#include "tests/contract/win32/win32_user.h"
+
+namespace zentar {
+namespace {
+
+WindowServices& Windows() { return ThePlatform().Services().windows; }
+
+struct SeenBox {
+    std::string text;
+    int focusedButton = 0;
+};
+
+std::string TextOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return Narrow(text);
+}
+
+// Asks, and presses a key once the box is there; gives the answer and what the user saw.
+Answer AskAndPress(const Message& message, WPARAM key, SeenBox& seen) {
+    TryMeanwhile([&message, &seen, key] {
+        const HWND box = FindTopWindow(message.title);
+        if (box == nullptr || !IsWindowVisible(box))
+            return false;
+        constexpr int kTextId = 0xFFFF;
+        seen.text = TextOf(GetDlgItem(box, kTextId));
+        seen.focusedButton = GetDlgCtrlID(GetFocus());
+        PostKey(GetFocus(), key);
+        return true;
+    });
+    return Windows().Ask(message);
+}
+
+}  // namespace
+
+TEST(Win32WindowServices, AQuestionShowsItsTextAndEnterGivesTheDefaultAnswer) {
+    Message message{"Confirm", "Really delete \"дуэль.dm2\"?\r\n\r\nIt is gone for good.",
+                    MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
+    SeenBox seen;
+    EXPECT_EQ(AskAndPress(message, VK_RETURN, seen), Answer::No);
+    EXPECT_EQ(seen.text, message.text);
+    EXPECT_EQ(seen.focusedButton, IDNO);
+    message.defaultButton = DefaultButton::First;
+    EXPECT_EQ(AskAndPress(message, VK_RETURN, seen), Answer::Yes);
+    EXPECT_EQ(seen.focusedButton, IDYES);
+}
+
+TEST(Win32WindowServices, AMessageIsAnsweredWithOk) {
+    const Message message{"Done", "Ready.", MessageIcon::Information, MessageButtons::Ok,
+                          DefaultButton::First};
+    SeenBox seen;
+    EXPECT_EQ(AskAndPress(message, VK_RETURN, seen), Answer::Ok);
+    EXPECT_EQ(AskAndPress(message, VK_ESCAPE, seen), Answer::Ok);
+    EXPECT_EQ(seen.text, "Ready.");
+}
+
+TEST(Win32WindowServices, AKeyThatIsHeldWasPressedOnlyOnce) {
+    static_cast<void>(Windows().KeyState(PollKey::Shift));
+    EXPECT_EQ(Windows().KeyState(PollKey::Shift), 0);
+    keybd_event(VK_SHIFT, 0, 0, 0);
+    EXPECT_EQ(Windows().KeyState(PollKey::Shift), 0x8001);
+    EXPECT_EQ(Windows().KeyState(PollKey::Shift), 0x8000);
+    EXPECT_EQ(Windows().KeyState(PollKey::Control), 0);
+    keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+    EXPECT_EQ(Windows().KeyState(PollKey::Shift) & 0x8000, 0);
+}
+
+TEST(Win32Shell, TheSystemsFoldersAreThereWithoutABackslash) {
+    Shell& shell = ThePlatform().Services().shell;
+    for (const std::string& folder : {shell.ProgramFolder(), shell.WindowsFolder()}) {
+        EXPECT_TRUE(ThePlatform().Services().files.Info(folder).ValueOr({}).isFolder) << folder;
+        EXPECT_EQ(folder.ends_with('\\'), folder.size() == 3) << folder;
+    }
+}
+
+}  // namespace zentar

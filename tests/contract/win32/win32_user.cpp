@@ -1,0 +1,146 @@
+#include "tests/contract/win32/win32_user.h"
+
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "platform/win32/win32_text.h"
+
+namespace zentar {
+namespace {
+
+struct Search {
+    std::wstring title;
+    int id = 0;
+    HWND found = nullptr;
+};
+
+std::wstring TitleOf(HWND window) {
+    wchar_t title[256];
+    const int length = GetWindowTextW(window, title, 256);
+    return {title, static_cast<std::size_t>(length)};
+}
+
+BOOL CALLBACK CompareTitle(HWND window, LPARAM search) {
+    auto& wanted = *reinterpret_cast<Search*>(search);
+    if (TitleOf(window) != wanted.title)
+        return TRUE;
+    wanted.found = window;
+    return FALSE;
+}
+
+BOOL CALLBACK CompareId(HWND window, LPARAM search) {
+    auto& wanted = *reinterpret_cast<Search*>(search);
+    if (GetDlgCtrlID(window) != wanted.id)
+        return TRUE;
+    wanted.found = window;
+    return FALSE;
+}
+
+LPARAM At(POINT at) { return MAKELPARAM(at.x, at.y); }
+
+void Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    EXPECT_TRUE(PostMessageW(window, message, wParam, lParam));
+}
+
+std::function<bool()> meanwhileStep;
+UINT_PTR meanwhileTimer = 0;
+
+// No timer runs during a try, or else that could never wait for silence.
+void CALLBACK TryAgain(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+    KillTimer(nullptr, timer);
+    if (timer != meanwhileTimer)
+        return;
+    const std::function<bool()> step = meanwhileStep;
+    if (!step())
+        TryMeanwhile(step);
+}
+
+}  // namespace
+
+void TryMeanwhile(std::function<bool()> step) {
+    meanwhileStep = std::move(step);
+    meanwhileTimer = SetTimer(nullptr, 0, 10, &TryAgain);
+}
+
+HWND FindTopWindow(std::string_view title) {
+    Search search{Widen(title)};
+    EnumThreadWindows(GetCurrentThreadId(), CompareTitle, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND FindControlWindow(HWND top, int id) {
+    Search search{{}, id};
+    EnumChildWindows(top, CompareId, reinterpret_cast<LPARAM>(&search));
+    EXPECT_NE(search.found, nullptr) << "no control " << id;
+    return search.found;
+}
+
+bool MouseReaches(HWND window) {
+    if (!IsWindowVisible(window))
+        return false;
+    for (HWND at = window; at != nullptr; at = GetAncestor(at, GA_PARENT)) {
+        if (at != GetDesktopWindow() && !IsWindowEnabled(at))
+            return false;
+    }
+    return true;
+}
+
+void PostClick(HWND window, POINT at) {
+    EXPECT_TRUE(MouseReaches(window)) << "a click cannot reach control " << GetDlgCtrlID(window);
+    Post(window, WM_LBUTTONDOWN, MK_LBUTTON, At(at));
+    Post(window, WM_LBUTTONUP, 0, At(at));
+}
+
+void PostDoubleClick(HWND window, POINT at) {
+    PostClick(window, at);
+    Post(window, WM_LBUTTONDBLCLK, MK_LBUTTON, At(at));
+    Post(window, WM_LBUTTONUP, 0, At(at));
+}
+
+void PostRightClick(HWND window, POINT at) {
+    EXPECT_TRUE(MouseReaches(window)) << "a click cannot reach control " << GetDlgCtrlID(window);
+    POINT screen = at;
+    ClientToScreen(window, &screen);
+    SetCursorPos(screen.x, screen.y);
+    Post(window, WM_RBUTTONDOWN, MK_RBUTTON, At(at));
+    Post(window, WM_RBUTTONUP, 0, At(at));
+}
+
+void PostKey(HWND window, WPARAM virtualKey) {
+    const UINT scanCode = MapVirtualKeyW(static_cast<UINT>(virtualKey), MAPVK_VK_TO_VSC);
+    const LPARAM down = 1 | static_cast<LPARAM>(scanCode) << 16;
+    constexpr LPARAM kUp = 0xC0000000;
+    Post(window, WM_KEYDOWN, virtualKey, down);
+    Post(window, WM_KEYUP, virtualKey, down | kUp);
+}
+
+void PostText(HWND window, std::string_view text) {
+    for (const wchar_t unit : Widen(text))
+        Post(window, WM_CHAR, unit, 1);
+}
+
+POINT MiddleOf(const RECT& rect) {
+    return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+}
+
+POINT MiddleOf(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return MiddleOf(client);
+}
+
+POINT MiddleOfEntry(HWND list, int index) {
+    RECT client{};
+    GetClientRect(list, &client);
+    RECT entry{};
+    const LRESULT last = SendMessageW(list, LB_GETCOUNT, 0, 0) - 1;
+    const auto wanted = static_cast<WPARAM>(index < 0 ? last : index);
+    SendMessageW(list, LB_GETITEMRECT, wanted, reinterpret_cast<LPARAM>(&entry));
+    if (index >= 0)
+        return MiddleOf(entry);
+    return {client.right / 2, (entry.bottom + client.bottom) / 2};
+}
+
+}  // namespace zentar

@@ -1,0 +1,36 @@
+// A user in front of real windows: mouse and keyboard messages as Windows sends them.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string_view>
+
+namespace zentar {
+
+// The window of this thread that has this title; null when there is none.
+HWND FindTopWindow(std::string_view title);
+// The control of this number, however deep in the window.
+HWND FindControlWindow(HWND top, int id);
+
+// Whether the mouse would reach the window: all that it stands in is visible and enabled.
+bool MouseReaches(HWND window);
+
+// Each posts what the hardware would cause; the message loop handles it.
+void PostClick(HWND window, POINT at);
+void PostDoubleClick(HWND window, POINT at);
+// Moves the real pointer there as well.
+void PostRightClick(HWND window, POINT at);
+void PostKey(HWND window, WPARAM virtualKey);
+void PostText(HWND window, std::string_view text);
+
+// Runs the step again and again from inside whatever message loop runs, until it gives true. One
+// at a time.
+void TryMeanwhile(std::function<bool()> step);
+
+POINT MiddleOf(const RECT& rect);
+POINT MiddleOf(HWND window);
+// The middle of a list's entry; for -1, of the empty space below the last one.
+POINT MiddleOfEntry(HWND list, int index);
+
+}  // namespace zentar

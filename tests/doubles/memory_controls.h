@@ -1,0 +1,205 @@
+// The controls of a window in memory: the same events under the same conditions as the real ones.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/form_table.h"
+
+namespace zentar {
+
+class ControlCore;
+
+// What a control needs of its window.
+class ControlHost {
+  public:
+    virtual ~ControlHost() = default;
+    virtual void RunProcedure(const std::function<void()>& procedure) = 0;
+    virtual void Log(int id, const std::string& call) = 0;
+    virtual ControlCore* Focused() const = 0;
+    virtual void MoveFocus(ControlCore* to) = 0;
+    // The control is about to be disabled or hidden: when the focus is in it, it moves on.
+    virtual void LeaveFocus(const ControlCore& going) = 0;
+    virtual std::vector<ControlCore*> ChildrenOf(int parent) const = 0;
+};
+
+// What every control has, whatever its kind.
+class ControlCore {
+  public:
+    ControlCore(ControlHost& host, const ControlRow& row, ControlCore* parent);
+    virtual ~ControlCore() = default;
+    ControlCore(const ControlCore&) = delete;
+    ControlCore& operator=(const ControlCore&) = delete;
+
+    virtual Control& AsControl() = 0;
+    // What a left click does to the control, beyond giving it the focus.
+    virtual void Clicked() {}
+    // Takes the other buttons' selection away, without an event.
+    virtual void ClearSelection() {}
+
+    const ControlRow& Row() const { return row_; }
+    ControlCore* Parent() const { return parent_; }
+    int TopTwips() const { return topTwips_; }
+    bool EffectivelyEnabled() const;
+    // Shown as far as this window goes: neither it nor an ancestor is hidden or on a page behind.
+    bool EffectivelyVisible() const;
+    // As the window may be hidden itself: it gives the focus once it is shown.
+    bool CanTakeFocus() const;
+    bool IsWithin(const ControlCore& ancestor) const;
+    // Whether the Tab key stops here.
+    virtual bool IsTabStop() const { return CanTakeFocus(); }
+    const ControlEvents& Events() const { return events_; }
+    void Raise(const char* name, std::function<void()> ControlEvents::*event);
+
+  protected:
+    virtual bool InFront() const { return true; }
+    void StoreEvents(ControlEvents events) { events_ = std::move(events); }
+    void StoreEnabled(bool enabled);
+    void StoreVisible(bool visible);
+    void StoreTop(int twips);
+    void StoreText(const std::string& text);
+    void TakeFocus();
+    void Log(const std::string& call);
+
+    ControlHost& host_;
+    const ControlRow& row_;
+    ControlCore* parent_;
+    ControlEvents events_;
+    std::string text_;
+    bool enabled_;
+    bool visible_;
+    int topTwips_;
+};
+
+template <typename Interface>
+class MemoryControl : public Interface, public ControlCore {
+  public:
+    using ControlCore::ControlCore;
+
+    Control& AsControl() override { return *this; }
+    void SetEvents(ControlEvents events) override { StoreEvents(std::move(events)); }
+    void SetEnabled(bool enabled) override { StoreEnabled(enabled); }
+    bool Enabled() const override { return enabled_; }
+    void SetVisible(bool visible) override { StoreVisible(visible); }
+    bool Visible() const override { return visible_; }
+    void SetText(const std::string& text) override { StoreText(text); }
+    std::string Text() const override { return text_; }
+    void SetFocus() override { TakeFocus(); }
+    bool HasFocus() const override { return host_.Focused() == this; }
+    void SetTop(int twips) override { StoreTop(twips); }
+};
+
+using MemoryLabel = MemoryControl<Label>;
+using MemoryFrame = MemoryControl<Frame>;
+
+class MemoryButton : public MemoryControl<Button> {
+  public:
+    using MemoryControl::MemoryControl;
+    void Clicked() override { Raise("click", &ControlEvents::click); }
+};
+
+class MemoryCheckBox : public MemoryControl<CheckBox> {
+  public:
+    MemoryCheckBox(ControlHost& host, const ControlRow& row, ControlCore* parent);
+    void Clicked() override { Change(!checked_); }
+    void SetChecked(bool checked) override;
+    bool Checked() const override { return checked_; }
+
+  private:
+    void Change(bool checked);
+    bool checked_;
+};
+
+class MemoryOptionButton : public MemoryControl<OptionButton> {
+  public:
+    MemoryOptionButton(ControlHost& host, const ControlRow& row, ControlCore* parent);
+    void Clicked() override { Change(true); }
+    void ClearSelection() override { selected_ = false; }
+    void SetSelected(bool selected) override;
+    bool Selected() const override { return selected_; }
+    // Of a group, only the selected button, or the first while none is.
+    bool IsTabStop() const override;
+
+  private:
+    void Change(bool selected);
+    bool selected_;
+};
+
+class MemoryTextBox : public MemoryControl<TextBox> {
+  public:
+    MemoryTextBox(ControlHost& host, const ControlRow& row, ControlCore* parent);
+    void SetText(const std::string& text) override;
+    void SelectAll() override;
+    void SetBackground(SystemColour colour) override;
+    SystemColour Background() const override { return background_; }
+
+    bool AllSelected() const { return allSelected_; }
+    // What the user's keys do at the end of the text, or to the whole of it when it is selected.
+    void TypeCharacter(const std::string& character);
+    void EraseCharacter();
+
+  private:
+    void Change(const std::string& text);
+    SystemColour background_;
+    bool allSelected_ = false;
+};
+
+class MemoryListBox : public MemoryControl<ListBox> {
+  public:
+    MemoryListBox(ControlHost& host, const ControlRow& row, ControlCore* parent);
+    void SetItems(const std::vector<std::string>& items) override;
+    int Count() const override { return static_cast<int>(items_.size()); }
+    std::string Item(int index) const override;
+    int SelectedIndex() const override { return selected_; }
+    void Select(int index) override;
+    void SelectAtPointer() override;
+    void SetBackground(SystemColour colour) override;
+    SystemColour Background() const override { return background_; }
+
+    const std::vector<std::string>& Items() const { return items_; }
+    // Which entry the mouse pointer is over, -1 for none.
+    void SetEntryAtPointer(int index) { entryAtPointer_ = index; }
+    // As Select, but by the user.
+    void Change(int index);
+
+  private:
+    void CheckIndex(int index) const;
+
+    SystemColour background_;
+    std::vector<std::string> items_;
+    int selected_ = -1;
+    int entryAtPointer_ = -1;
+};
+
+class MemoryTab : public MemoryControl<TabControl> {
+  public:
+    using MemoryControl::MemoryControl;
+    int SelectedTab() const override { return selected_; }
+    void SelectTab(int index) override;
+    void Change(int index);
+    int PageCount() const { return static_cast<int>(host_.ChildrenOf(row_.id).size()); }
+
+  private:
+    int selected_ = 0;
+};
+
+// A page counts as shown while its tab is in front.
+class MemoryTabPage : public MemoryControl<Control> {
+  public:
+    MemoryTabPage(ControlHost& host, const ControlRow& row, ControlCore* parent);
+
+  protected:
+    bool InFront() const override { return tab_.SelectedTab() == index_; }
+
+  private:
+    const MemoryTab& tab_;
+    int index_;
+};
+
+std::unique_ptr<ControlCore> MakeMemoryControl(ControlHost& host, const ControlRow& row,
+                                               ControlCore* parent);
+
+}  // namespace zentar

@@ -1,0 +1,27 @@
+// A whole operating system in memory, for a program under test.
+#pragma once
+
+#include "platform/platform.h"
+#include "tests/doubles/event_log.h"
+#include "tests/doubles/memory_file_system.h"
+#include "tests/doubles/memory_form.h"
+#include "tests/doubles/scripted_services.h"
+
+namespace zentar {
+
+struct MemoryPlatform {
+    EventLog log;
+    MemoryFileSystem files{&log};
+    ScriptedShell shell{&log};
+    ScriptedWindows windows{&log};
+    FixedLocale locale;
+    MemoryFormFactory forms{&log};
+
+    Platform Services() { return {files, shell, windows, locale, forms}; }
+    // The same, with another file system before or instead of the one in memory.
+    Platform Services(FileSystem& otherFiles) {
+        return {otherFiles, shell, windows, locale, forms};
+    }
+};
+
+}  // namespace zentar

@@ -1,0 +1,109 @@
+// The shell, the windowing system and the locale, as a test wrote their part.
+//
+// A message box or a folder dialog that the test does not expect fails it, and so does one that it
+// expected and that never came.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/locale.h"
+#include "platform/shell.h"
+#include "platform/window_services.h"
+#include "tests/doubles/event_log.h"
+
+namespace zentar {
+
+class ScriptedShell : public Shell {
+  public:
+    explicit ScriptedShell(EventLog* log = nullptr) : log_(log) {}
+    ~ScriptedShell() override { Verify(); }
+    ScriptedShell(const ScriptedShell&) = delete;
+    ScriptedShell& operator=(const ScriptedShell&) = delete;
+
+    std::string ProgramFolder() override { return programFolder; }
+    std::string WindowsFolder() override { return windowsFolder; }
+    std::optional<std::string> PickFolder(const std::string& title) override;
+
+    // The next folder dialog has this title; the user picks the folder, or cancels.
+    void ExpectPick(const std::string& title, std::optional<std::string> picked);
+    // Fails the test when an expected dialog has not come; then expects none.
+    void Verify();
+
+    std::string programFolder = "C:\\Program Files\\Zentar";
+    std::string windowsFolder = "C:\\Windows";
+
+  private:
+    struct ExpectedPick {
+        std::string title;
+        std::optional<std::string> picked;
+    };
+    EventLog* log_;
+    std::deque<ExpectedPick> picks_;
+};
+
+class ScriptedWindows : public WindowServices {
+  public:
+    explicit ScriptedWindows(EventLog* log = nullptr) : log_(log) {}
+    ~ScriptedWindows() override { Verify(); }
+    ScriptedWindows(const ScriptedWindows&) = delete;
+    ScriptedWindows& operator=(const ScriptedWindows&) = delete;
+
+    Answer Ask(const Message& message) override;
+    void Sound(Beep beep) override;
+    std::uint16_t KeyState(PollKey key) override;
+    void SetPointer(Pointer pointer) override;
+    void PumpPending() override;
+
+    // The next box is this one, whole, and the user answers so. `meanwhile` runs while it is open.
+    void Expect(const Message& message, Answer answer, std::function<void()> meanwhile = {});
+    void Expect(const Message& message) { Expect(message, Answer::Ok); }
+    // Fails the test when an expected box has not come; then expects none.
+    void Verify();
+
+    // 0x8000: the key is down; 0x0001: it was pressed since the last query.
+    void SetKeyState(PollKey key, std::uint16_t state) { keys_[key] = state; }
+
+    // What happens inside each PumpPending, for instance an event that the user caused meanwhile.
+    void SetDuringPump(std::function<void()> duringPump) { duringPump_ = std::move(duringPump); }
+
+    Pointer CurrentPointer() const { return pointer_; }
+    const std::vector<Pointer>& Pointers() const { return pointers_; }
+    const std::vector<Beep>& Sounds() const { return sounds_; }
+    const std::vector<Message>& Shown() const { return shown_; }
+    int Pumps() const { return pumps_; }
+
+  private:
+    struct ExpectedBox {
+        Message message;
+        Answer answer = Answer::Ok;
+        std::function<void()> meanwhile;
+    };
+    void Log(const std::string& entry);
+
+    EventLog* log_;
+    std::deque<ExpectedBox> boxes_;
+    std::vector<Message> shown_;
+    std::vector<Beep> sounds_;
+    std::vector<Pointer> pointers_;
+    Pointer pointer_ = Pointer::Default;
+    std::map<PollKey, std::uint16_t> keys_;
+    std::function<void()> duringPump_;
+    int pumps_ = 0;
+};
+
+// A moment in UTC.
+FileTime MakeFileTime(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
+
+// "," between groups of digits, and dates such as "2026-11-21 13:05:09", in UTC.
+class FixedLocale : public Locale {
+  public:
+    std::string ThousandsSeparator() override { return ","; }
+    std::string GeneralDate(FileTime moment) override;
+};
+
+}  // namespace zentar

@@ -1,0 +1,55 @@
+#include "tests/doubles/sparse_bytes.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace zentar {
+
+void SparseBytes::Append(std::string_view bytes) {
+    if (bytes.empty())
+        return;
+    const bool continues =
+        !pieces_.empty() && pieces_.rbegin()->first + pieces_.rbegin()->second.size() == length_;
+    if (!continues)
+        pieces_.emplace(length_, std::string());
+    pieces_.rbegin()->second += bytes;
+    length_ += bytes.size();
+}
+
+void SparseBytes::Clear() {
+    length_ = 0;
+    pieces_.clear();
+}
+
+std::size_t SparseBytes::ReadAt(std::uint64_t offset, std::span<std::byte> into) const {
+    if (offset >= length_ || into.empty())
+        return 0;
+    const auto count =
+        static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), length_ - offset));
+    std::memset(into.data(), 0, count);
+    const std::uint64_t end = offset + count;
+    for (const auto& [start, bytes] : pieces_) {
+        const std::uint64_t from = std::max(start, offset);
+        const std::uint64_t to = std::min<std::uint64_t>(start + bytes.size(), end);
+        if (from >= to)
+            continue;
+        std::memcpy(into.data() + (from - offset), bytes.data() + (from - start), to - from);
+    }
+    return count;
+}
+
+std::string SparseBytes::Text() const {
+    constexpr std::uint64_t kLargestText = 256u << 20;
+    if (length_ > kLargestText) {
+        std::string text = "(" + std::to_string(length_) + " bytes, zeros but for";
+        for (const auto& [start, bytes] : pieces_) {
+            text += " " + std::to_string(start) + ": " + bytes;
+        }
+        return text + ")";
+    }
+    std::string text(static_cast<std::size_t>(length_), '\0');
+    ReadAt(0, std::as_writable_bytes(std::span(text)));
+    return text;
+}
+
+}  // namespace zentar

@@ -1,0 +1,81 @@
+#include "tests/unit/demos/demos_tab_fixture.h"
+
+#include <algorithm>
+
+namespace zentar {
+
+namespace {
+
+constexpr int kDemosPage = 1;
+
+}  // namespace
+
+DemosTabTest::DemosTabTest() {
+    window = os.forms.Create(MainWindowTable());
+    form = static_cast<MemoryForm*>(window.get());
+    tab = std::make_unique<DemosTab>(
+        state, os.Services(), DemosTabControlsOf(*window),
+        [this] { form->ShowPopup(IDM_mnuDemos); }, [this] { return started; });
+    form->Show();
+    form->GetTab(IDC_SSTab1).SelectTab(kDemosPage);
+}
+
+void DemosTabTest::Use(std::string_view game, const std::string& mod) {
+    const GameInfo& info = AllGames()[static_cast<std::size_t>(GameIndex(game))];
+    state.settings.Game = std::string(game);
+    state.current.DemoExtension = std::string(info.demoExtension);
+    state.current.DemoFolder =
+        "C:\\Games\\" + std::string(game) + "\\" + mod + "\\" + std::string(info.demoFolder);
+    os.files.AddFolder(state.current.DemoFolder);
+    tab->RefreshDemoList();
+}
+
+void DemosTabTest::AddDemo(const std::string& name, const std::string& bytes) {
+    os.files.AddFile(PathOf(name), bytes);
+}
+
+void DemosTabTest::AddDemo(const std::string& name, samples::DemoKind kind,
+                           const samples::DemoContents& contents) {
+    AddDemo(name, samples::MakeDemo(kind, contents));
+}
+
+void DemosTabTest::RightClick(const std::string& entry) {
+    form->UserRightClick(IDC_lstDemos, IndexOf(entry));
+}
+
+void DemosTabTest::Filter(const std::string& phrase, bool contain) {
+    if (Checked(IDC_chkShowAllDemos)) {
+        form->UserClick(IDC_chkShowAllDemos);
+    }
+    form->UserClick(contain ? IDC_optTextYes : IDC_optTextNo);
+    form->GetTextBox(IDC_txtDemoFilter).SetText(phrase);
+    form->UserClick(IDC_cmdFilter);
+}
+
+void DemosTabTest::DuringNextPump(std::function<void()> event) {
+    DuringPumpNumber(1, std::move(event));
+}
+
+void DemosTabTest::DuringPumpNumber(int number, std::function<void()> event) {
+    os.windows.SetDuringPump([number, event = std::move(event)]() mutable {
+        if (--number == 0) {
+            event();
+        }
+    });
+}
+
+int DemosTabTest::IndexOf(const std::string& entry) {
+    const std::vector<std::string> listed = Listed();
+    const auto found = std::find(listed.begin(), listed.end(), entry);
+    return found == listed.end() ? -1 : static_cast<int>(found - listed.begin());
+}
+
+Message DemosTabTest::Offer(const std::string& game) const {
+    return {"Error",
+            "The selected file is not really a " + game +
+                " demo!\r\n\r\nWould you like me to add an \"!\" after its extension\r\nto stop it "
+                "accidentally showing up in this list again?",
+            MessageIcon::Exclamation, MessageButtons::YesNo, DefaultButton::Second};
+}
+
+}  // namespace zentar

@@ -1,0 +1,86 @@
+#include "tests/window/screen_picture.h"
+
+#include <wincodec.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "tests/window/text_conversion.h"
+
+namespace zentar::window_tests {
+
+namespace {
+
+std::filesystem::path PictureFolder() {
+    std::filesystem::path folder = "pictures";
+    if (const wchar_t* wanted = _wgetenv(L"ZENTAR_PICTURES")) {
+        folder = wanted;
+    }
+    std::filesystem::create_directories(folder);
+    return folder;
+}
+
+HBITMAP CopyScreen(const RECT& area) {
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+    SelectObject(memory, before);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return bitmap;
+}
+
+// Released when it goes out of scope; the file is complete only then.
+template <typename Interface>
+struct ComPointer {
+    Interface* pointer = nullptr;
+    ComPointer() = default;
+    ComPointer(const ComPointer&) = delete;
+    ComPointer& operator=(const ComPointer&) = delete;
+    ~ComPointer() {
+        if (pointer != nullptr) {
+            pointer->Release();
+        }
+    }
+    Interface* operator->() const { return pointer; }
+};
+
+void SavePng(HBITMAP bitmap, const std::filesystem::path& file) {
+    ComPointer<IWICImagingFactory> factory;
+    CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
+                     reinterpret_cast<void**>(&factory.pointer));
+    ComPointer<IWICBitmap> picture;
+    factory->CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, &picture.pointer);
+    ComPointer<IWICStream> stream;
+    factory->CreateStream(&stream.pointer);
+    stream->InitializeFromFilename(file.c_str(), GENERIC_WRITE);
+    ComPointer<IWICBitmapEncoder> encoder;
+    factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder.pointer);
+    encoder->Initialize(stream.pointer, WICBitmapEncoderNoCache);
+    ComPointer<IWICBitmapFrameEncode> frame;
+    encoder->CreateNewFrame(&frame.pointer, nullptr);
+    frame->Initialize(nullptr);
+    frame->WriteSource(picture.pointer, nullptr);
+    frame->Commit();
+    encoder->Commit();
+}
+
+}  // namespace
+
+std::uintmax_t TakePicture(HWND window, const std::string& name) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    const HBITMAP bitmap = CopyScreen(area);
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const std::filesystem::path file = PictureFolder() / (Wide(name) + L".png");
+    SavePng(bitmap, file);
+    CoUninitialize();
+    DeleteObject(bitmap);
+    return std::filesystem::file_size(file);
+}
+
+}  // namespace zentar::window_tests

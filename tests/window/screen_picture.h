@@ -1,0 +1,16 @@
+// Pictures of what stands on the screen, for people to look at.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+
+namespace zentar::window_tests {
+
+// Saves the part of the screen that a window takes up as <name>.png in the folder that the
+// environment variable ZENTAR_PICTURES names, or in "pictures" in the working folder.
+// Gives the length of the file.
+std::uintmax_t TakePicture(HWND window, const std::string& name);
+
+}  // namespace zentar::window_tests

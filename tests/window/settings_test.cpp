@@ -1,0 +1,172 @@
+// What is kept from one run to the next, and what the user's file looks like after each way to end.
+#include <gtest/gtest.h>
+
+#include "tests/window/user_input.h"
+#include "tests/window/waiting.h"
+#include "tests/window/windows_of.h"
+#include "tests/window/zentar_driver.h"
+#include "ui/resource.h"
+
+namespace zentar::window_tests {
+namespace {
+
+// zentar.ini, whole, as the program writes it for a home with the given differences.
+std::string WholeIni(const ZentarHome& home, const std::string& game, const std::string& demos) {
+    std::string text =
+        "// Zentar v0.99 BETA Settings File.\r\n"
+        "// Changes are NOT recommended!\r\n"
+        "// ----------------------------\r\n"
+        "Virgin=0\r\n"
+        "Game=" +
+        game +
+        "\r\n"
+        "Q1Folder=" +
+        FolderText(home.Games() / "Quake") +
+        "\r\n"
+        "Q2Folder=" +
+        FolderText(home.Games() / "Quake2") +
+        "\r\n"
+        "Q3Folder=" +
+        FolderText(home.Games() / "Quake3") +
+        "\r\n"
+        "CurMod1=id1\r\nCurMod2=baseq2\r\nCurMod3=baseq3\r\n"
+        "Remote=" +
+        FolderText(home.Remote()) +
+        "\r\n"
+        "Expert=0\r\nPreview=0\r\nAutoShowAll=1\r\nAutoNextShot=0\r\nAutoNextDemo=0\r\n"
+        "BackupAll=0\r\n" +
+        demos +
+        "ScanWarn=0\r\nTranscriptHTML=1\r\nTranscriptGameplay=0\r\n"
+        "TranscriptMessages=-1\r\nTranscriptBackground=-1\r\n";
+    for (int box = 1; box <= 24; ++box) {
+        const std::string player = "Player" + std::to_string(box);
+        text += player + (box == 7 ? "Name=^1Ember\xFF\r\n" : "Name=\r\n");
+        text += player + (box == 7 ? "Colour=255\r\n" : "Colour=\r\n");
+    }
+    return text +
+           "Q3TextType=0\r\nQ3TextKeyfox=0\r\nQ3TextOSP=0\r\nQ3TextText=\r\n"
+           "// ===================================================================\r\n";
+}
+
+const IniLines kPlayer = {
+    "Player7Name=^1Ember\xFF", "Player7Colour=255",    "Preview=0",      "BackupAll=0",
+    "TranscriptHTML=1",        "TranscriptGameplay=0", "Q3TextKeyfox=0", "Q3TextOSP=0"};
+
+TEST(Settings, AreWrittenToTheByteWhenTheProgramIsClosed) {
+    const ZentarHome home;
+    home.WriteIni(kPlayer);
+    ZentarDriver zentar(home);
+    zentar.ShowTab(1);
+    zentar.ClickOn(IDC_chkShowAllDemos);
+    zentar.ClickOn(IDC_optTextNo);
+    zentar.ClickOn(IDC_txtDemoFilter);
+    Type("Größe");
+    zentar.Settle();
+    zentar.ClickOn(IDC_optGameQuake3);
+    EXPECT_SOON(zentar.Selected(IDC_lstMods), "baseq3");
+    EXPECT_EQ(zentar.Close(), 0);
+    // Another mod was shown, so all demos are.
+    EXPECT_EQ(ReadBytes(home.Ini()),
+              WholeIni(home, "Quake3",
+                       "DemosAll=1\r\nDemosText=False\r\nDemosFilter=Gr\xF6\xDF"
+                       "e\r\n"));
+}
+
+TEST(Settings, AreTheSameAfterARunThatChangedNothing) {
+    const ZentarHome home;
+    home.WriteIni(kPlayer);
+    EXPECT_EQ(ZentarDriver(home).Close(), 0);
+    const std::string first = ReadBytes(home.Ini());
+    EXPECT_EQ(ZentarDriver(home).Close(), 0);
+    EXPECT_EQ(ReadBytes(home.Ini()), first);
+}
+
+TEST(Settings, ExitInTheMenuSavesThem) {
+    const ZentarHome home;
+    home.WriteIni();
+    ZentarDriver zentar(home);
+    zentar.ClickOn(IDC_optGameQuake1);
+    EXPECT_SOON(zentar.Selected(IDC_lstMods), "id1");
+    zentar.OpenMenuEntry('P', 'X');
+    EXPECT_EQ(zentar.WaitForExit(), 0);
+    EXPECT_NE(ReadBytes(home.Ini()).find("\r\nGame=Quake1\r\n"), std::string::npos);
+}
+
+TEST(Settings, AReadOnlyFileStaysAsItIs) {
+    const ZentarHome home;
+    home.WriteIni();
+    const std::string before = ReadBytes(home.Ini());
+    SetFileAttributesW(home.Ini().c_str(), FILE_ATTRIBUTE_READONLY);
+    ZentarDriver zentar(home);
+    zentar.ClickOn(IDC_optGameQuake1);
+    EXPECT_EQ(zentar.Close(), 0);
+    EXPECT_EQ(ReadBytes(home.Ini()), before);
+}
+
+TEST(Settings, AKilledProgramLeavesTheOldFile) {
+    const ZentarHome home;
+    home.WriteIni();
+    const std::string before = ReadBytes(home.Ini());
+    ZentarDriver zentar(home);
+    zentar.ClickOn(IDC_optGameQuake1);
+    EXPECT_SOON(zentar.Selected(IDC_lstMods), "id1");
+    zentar.Kill();
+    EXPECT_EQ(ReadBytes(home.Ini()), before);
+}
+
+TEST(Settings, TheEndOfTheSessionSavesThem) {
+    const ZentarHome home;
+    home.WriteIni();
+    const ZentarDriver zentar(home);
+    zentar.ClickOn(IDC_optGameQuake1);
+    EXPECT_SOON(zentar.Selected(IDC_lstMods), "id1");
+    EXPECT_NE(Send(zentar.Main(), WM_QUERYENDSESSION), 0);
+    Send(zentar.Main(), WM_ENDSESSION, TRUE);
+    EXPECT_NE(ReadBytes(home.Ini()).find("\r\nGame=Quake1\r\n"), std::string::npos);
+}
+
+TEST(Settings, NoTemporaryFileStaysBehind) {
+    const ZentarHome home;
+    home.WriteIni();
+    EXPECT_EQ(ZentarDriver(home).Close(), 0);
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(home.Program())) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{"data", "zentar.exe", "zentar.ini"}));
+}
+
+TEST(Settings, OnlyWhatConvertsUnderItsExactKeyCounts) {
+    const ZentarHome home;
+    home.WriteIni({"DemosText=False", "DemosText=maybe", "demosfilter=wrong", " DemosFilter=wrong",
+                   "DemosFilter=right", "AutoShowAll=0", "DemosAll=0", "DemosAll=many",
+                   "Expert=300", "game=Quake3"});
+    ZentarDriver zentar(home);
+    EXPECT_TRUE(zentar.Checked(IDC_optTextNo));
+    EXPECT_FALSE(zentar.Checked(IDC_chkShowAllDemos));
+    EXPECT_SOON(zentar.Text(IDC_txtDemoFilter), "right");
+    EXPECT_TRUE(zentar.Checked(IDC_optGameQuake2));
+    EXPECT_EQ(zentar.Close(), 0);
+    const std::string ini = ReadBytes(home.Ini());
+    EXPECT_NE(ini.find("\r\nExpert=0\r\n"), std::string::npos);
+    EXPECT_NE(ini.find("\r\nDemosText=False\r\nDemosFilter=right\r\n"), std::string::npos);
+}
+
+TEST(Settings, AFileOfRandomBytesDoesNoHarm) {
+    const ZentarHome home;
+    std::string bytes = "\xEF\xBB\xBFGame=Quake3\r\n";
+    unsigned random = 1;
+    while (bytes.size() < 300'000) {
+        random = random * 1664525U + 1013904223U;
+        bytes += static_cast<char>(random >> 24U);
+    }
+    home.WriteIni();
+    WriteBytes(home.Ini(), bytes + "\r\n" + ReadBytes(home.Ini()));
+    ZentarDriver zentar(home);
+    EXPECT_TRUE(zentar.Checked(IDC_optGameQuake2));
+    EXPECT_EQ(zentar.Close(), 0);
+}
+
+}  // namespace
+}  // namespace zentar::window_tests

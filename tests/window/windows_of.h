@@ -1,0 +1,34 @@
+// Looking at the windows of another program, as an accessibility tool does.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace zentar::window_tests {
+
+// The visible top-level windows of a process, the front one first.
+std::vector<HWND> TopWindows(DWORD process);
+// The first of them with that class, and that title if one is given; null when there is none.
+HWND FindTop(DWORD process, const std::string& windowClass, const std::string& title = "");
+
+// All windows inside another, in reading order of their creation.
+std::vector<HWND> Descendants(HWND window);
+// The control with a number, however deep it lies; null when there is none.
+HWND FindControl(HWND window, int id);
+
+std::string ClassOf(HWND window);
+std::string TextOf(HWND window);
+// Whether a user can use it: it and everything around it is enabled.
+bool IsUsable(HWND window);
+
+std::vector<std::string> ItemsOf(HWND listBox);
+// The text of the selected entry; empty when none is selected.
+std::string SelectedItemOf(HWND listBox);
+bool IsChecked(HWND button);
+
+// SendMessage that gives up after a while instead of hanging with the program.
+LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+}  // namespace zentar::window_tests

@@ -1,0 +1,252 @@
+#include "tests/window/zentar_driver.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "tests/window/text_conversion.h"
+#include "tests/window/user_input.h"
+#include "tests/window/waiting.h"
+#include "tests/window/windows_of.h"
+#include "ui/resource.h"
+
+namespace zentar::window_tests {
+
+namespace {
+
+constexpr char kFormClass[] = "ZentarForm";
+constexpr char kDialogClass[] = "#32770";
+constexpr char kMenuClass[] = "#32768";
+constexpr UINT kGetMenuHandle = 0x01E1;  // MN_GETHMENU
+constexpr int kIdleLooks = 3;
+constexpr DWORD kExitPatienceMs = 15'000;
+
+// A message that tells the reader of a failed run what never came.
+HWND Found(HWND window, const std::string& what) {
+    if (window == nullptr) {
+        throw std::runtime_error("never saw " + what);
+    }
+    return window;
+}
+
+}  // namespace
+
+ZentarDriver::ZentarDriver(const ZentarHome& home, Start start) {
+    const std::filesystem::path program = home.Program() / "zentar.exe";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    // A file that was written a moment ago may still be held, by a virus scanner for instance.
+    const bool started = Eventually([&] {
+        return CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
+                              home.Program().c_str(), &startup, &process_) != FALSE;
+    });
+    if (!started) {
+        throw std::runtime_error("cannot start zentar.exe, error " +
+                                 std::to_string(GetLastError()));
+    }
+    main_ = Found(Eventually([this] { return FindTop(Process(), kFormClass, "Zentar"); }),
+                  "the main window");
+    SetForegroundWindow(main_);
+    probe_ = std::make_unique<WindowProbe>(process_.dwThreadId);
+    if (start == Start::Normal) {
+        GetsFocus(IDC_SSTab1);
+        Settle();
+    }
+}
+
+ZentarDriver::~ZentarDriver() {
+    probe_.reset();
+    if (Running()) {
+        Kill();
+    }
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+}
+
+HWND ZentarDriver::Control(int id) const {
+    return Found(FindControl(main_, id), "control " + std::to_string(id));
+}
+
+std::string ZentarDriver::Text(int id) const { return TextOf(Control(id)); }
+
+std::vector<std::string> ZentarDriver::Items(int id) const { return ItemsOf(Control(id)); }
+
+std::string ZentarDriver::Selected(int id) const { return SelectedItemOf(Control(id)); }
+
+bool ZentarDriver::Checked(int id) const { return IsChecked(Control(id)); }
+
+bool ZentarDriver::Usable(int id) const { return IsUsable(Control(id)); }
+
+bool ZentarDriver::Visible(int id) const {
+    return (GetWindowLongW(Control(id), GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+void ZentarDriver::Resize(SIZE size) const {
+    const bool done = Eventually([&] {
+        SetWindowPos(main_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        Settle();
+        RECT area{};
+        GetWindowRect(main_, &area);
+        return area.right - area.left == size.cx && area.bottom - area.top == size.cy;
+    });
+    if (!done) {
+        throw std::runtime_error("the window does not take the size");
+    }
+}
+
+GUITHREADINFO ZentarDriver::Keyboard() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(process_.dwThreadId, &info);
+    return info;
+}
+
+HWND ZentarDriver::Focused() const { return Keyboard().hwndFocus; }
+
+bool ZentarDriver::GetsFocus(int id) const {
+    return Eventually([this, id] {
+        const HWND control = FindControl(main_, id);
+        return control != nullptr && Focused() == control;
+    });
+}
+
+void ZentarDriver::Settle() const {
+    // An event procedure may let messages through while it is at work, so one look is not enough.
+    for (int idle = 0; idle < kIdleLooks; ++idle) {
+        Eventually([this] { return !probe_->IsBusy(main_); });
+    }
+}
+
+void ZentarDriver::ClickOn(int id) const {
+    Click(CentreOf(Control(id)));
+    Settle();
+}
+
+int ZentarDriver::IndexOf(int listBox, const std::string& item) const {
+    const std::vector<std::string> items = Items(listBox);
+    const auto at = std::find(items.begin(), items.end(), item);
+    if (at == items.end()) {
+        throw std::runtime_error("the list does not hold \"" + item + "\"");
+    }
+    return static_cast<int>(at - items.begin());
+}
+
+void ZentarDriver::ClickItem(int listBox, const std::string& item) const {
+    Click(CentreOfItem(Control(listBox), IndexOf(listBox, item)));
+    Settle();
+}
+
+void ZentarDriver::PressKey(WORD key) const {
+    Press(key);
+    Settle();
+}
+
+void ZentarDriver::ShowTab(int index) const {
+    const HWND tabs = Control(IDC_SSTab1);
+    const auto selected = [tabs] { return static_cast<int>(Send(tabs, TCM_GETCURSEL)); };
+    while (selected() != index) {
+        const int before = selected();
+        PressWith(VK_CONTROL, VK_TAB);
+        if (!Eventually([&] { return selected() != before; })) {
+            throw std::runtime_error("the tabs do not change");
+        }
+    }
+    Settle();
+}
+
+void ZentarDriver::OpenMenuEntry(char menu, char entry) const {
+    // After a dialog the keyboard comes back a moment later than the dialog goes.
+    Eventually([this] { return Keyboard().hwndActive == main_; });
+    Settle();
+    PressWith(VK_MENU, static_cast<WORD>(menu));
+    Found(Eventually([this] { return FindTop(Process(), kMenuClass); }), "the menu");
+    Press(static_cast<WORD>(entry));
+    Eventually([this] { return FindTop(Process(), kMenuClass) == nullptr; });
+}
+
+HWND ZentarDriver::WaitForWindow(const std::string& windowClass, const std::string& title) const {
+    return Found(Eventually([&] { return FindTop(Process(), windowClass, title); }),
+                 "the window \"" + title + "\"");
+}
+
+HWND ZentarDriver::WaitForBox(const std::string& title) const {
+    return WaitForWindow(kDialogClass, title);
+}
+
+HWND ZentarDriver::WaitForPicker(const std::string& title) const {
+    const auto shownTitle = [&]() -> HWND {
+        const HWND picker = FindTop(Process(), kDialogClass);
+        const std::vector<HWND> children = Descendants(picker);
+        const bool found = std::any_of(children.begin(), children.end(),
+                                       [&](HWND child) { return TextOf(child) == title; });
+        return found ? picker : nullptr;
+    };
+    return Found(Eventually(shownTitle), "the folder picker \"" + title + "\"");
+}
+
+void ZentarDriver::PickFolder(const std::string& title, const std::filesystem::path& folder) const {
+    const HWND picker = WaitForPicker(title);
+    const std::string name = Narrow(folder.filename().wstring());
+    // The picker may still be about to select the folder that it begins with.
+    const bool picked = Eventually([&] {
+        probe_->Pick(picker, folder.wstring());
+        const std::vector<HWND> children = Descendants(picker);
+        return std::any_of(children.begin(), children.end(),
+                           [&](HWND child) { return TextOf(child) == name; });
+    });
+    if (!picked) {
+        throw std::runtime_error("the picker does not find " + name);
+    }
+    AnswerBox(picker, IDOK);
+    Settle();
+}
+
+bool ZentarDriver::HasBox() const { return FindTop(Process(), kDialogClass) != nullptr; }
+
+HWND ZentarDriver::OpenPopup(int listBox, const std::string& item) const {
+    Click(CentreOfItem(Control(listBox), IndexOf(listBox, item)), MouseButton::Right);
+    return WaitForWindow(kMenuClass, "");
+}
+
+HWND ZentarDriver::OpenPopupBelowItems(int listBox) const {
+    RECT area{};
+    GetWindowRect(Control(listBox), &area);
+    Click({area.left + 20, area.bottom - 20}, MouseButton::Right);
+    return WaitForWindow(kMenuClass, "");
+}
+
+MenuLine ZentarDriver::PopupLine(HWND popup, int id) const {
+    const auto menu = reinterpret_cast<HMENU>(Send(popup, kGetMenuHandle));
+    return probe_->LookAt(main_, id, menu);
+}
+
+void ZentarDriver::ClosePopup(HWND popup) const {
+    Press(VK_ESCAPE);
+    Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
+}
+
+int ZentarDriver::Close() {
+    PostMessageW(main_, WM_CLOSE, 0, 0);
+    return WaitForExit();
+}
+
+int ZentarDriver::WaitForExit() {
+    if (WaitForSingleObject(process_.hProcess, kExitPatienceMs) != WAIT_OBJECT_0) {
+        return -1;
+    }
+    DWORD code = 0;
+    GetExitCodeProcess(process_.hProcess, &code);
+    return static_cast<int>(code);
+}
+
+void ZentarDriver::Kill() {
+    TerminateProcess(process_.hProcess, 1);
+    WaitForSingleObject(process_.hProcess, kExitPatienceMs);
+}
+
+bool ZentarDriver::Running() const {
+    return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
+}
+
+}  // namespace zentar::window_tests

@@ -1,0 +1,91 @@
+// Starts the program, finds its windows and controls, and ends it.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/window/message_box.h"
+#include "tests/window/window_probe_client.h"
+#include "tests/window/zentar_home.h"
+
+namespace zentar::window_tests {
+
+class ZentarDriver {
+  public:
+    // Starts the program of that folder and waits for its main window. Unless a first run is
+    // expected, waits until the first activation is over as well.
+    enum class Start { Normal, FirstRun };
+    explicit ZentarDriver(const ZentarHome& home, Start start = Start::Normal);
+    // Ends a program that is still running, without giving it a chance to save.
+    ~ZentarDriver();
+    ZentarDriver(const ZentarDriver&) = delete;
+    ZentarDriver& operator=(const ZentarDriver&) = delete;
+
+    HWND Main() const { return main_; }
+    HWND Control(int id) const;
+    // What the control says, lists, and so on.
+    std::string Text(int id) const;
+    std::vector<std::string> Items(int id) const;
+    std::string Selected(int id) const;
+    bool Checked(int id) const;
+    bool Usable(int id) const;
+    bool Visible(int id) const;
+    MenuLine Menu(int id) const { return probe_->LookAt(main_, id); }
+
+    // Makes the main window that big, in pixels. Its place on the screen is settled with the
+    // desktop only after a while, which may undo a new size; so asks again until the size stays.
+    void Resize(SIZE size) const;
+    SIZE CaptionSize(HWND control) const { return probe_->CaptionSize(control); }
+
+    // The window that has the keyboard.
+    HWND Focused() const;
+    // Waits until a control has it.
+    bool GetsFocus(int id) const;
+
+    // Comes back once the program has handled all input so far and waits for more.
+    void Settle() const;
+    // The user's ways to do it; each waits until the program has dealt with it.
+    void ClickOn(int id) const;
+    void ClickItem(int listBox, const std::string& item) const;
+    void PressKey(WORD key) const;
+    // A tab of the main window, by its position.
+    void ShowTab(int index) const;
+    // Alt and a letter, then the entry's letter.
+    void OpenMenuEntry(char menu, char entry) const;
+
+    // Waits for a window: a dialog of the program, a message box, an opened menu. These and the
+    // ways of a user above throw std::runtime_error when what they wait for never comes.
+    HWND WaitForWindow(const std::string& windowClass, const std::string& title) const;
+    HWND WaitForBox(const std::string& title) const;
+    BoxContents Read(HWND box) const { return ReadBox(box, *probe_); }
+    bool HasBox() const;
+    // The system's folder picker, which shows `title` above the folders.
+    HWND WaitForPicker(const std::string& title) const;
+    // Picks a folder in it.
+    void PickFolder(const std::string& title, const std::filesystem::path& folder) const;
+    // Opens a list's popup menu with the right mouse button on an entry; gives the menu's window.
+    HWND OpenPopup(int listBox, const std::string& item) const;
+    HWND OpenPopupBelowItems(int listBox) const;
+    MenuLine PopupLine(HWND popup, int id) const;
+    void ClosePopup(HWND popup) const;
+
+    // Closes the main window as its close button does. The exit code, or -1 if it does not end.
+    int Close();
+    int WaitForExit();
+    void Kill();
+    bool Running() const;
+    DWORD Process() const { return process_.dwProcessId; }
+
+  private:
+    GUITHREADINFO Keyboard() const;
+    int IndexOf(int listBox, const std::string& item) const;
+
+    PROCESS_INFORMATION process_{};
+    HWND main_ = nullptr;
+    std::unique_ptr<WindowProbe> probe_;
+};
+
+}  // namespace zentar::window_tests

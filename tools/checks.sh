@@ -1,0 +1,55 @@
+# Keeps count of what ./test did. Sourced by bash, after common.sh.
+passed=0
+failed=0
+logs=$root/build/logs
+mkdir -p "$logs"
+
+log_of() {  # name
+    echo "$logs/${1//[^A-Za-z0-9]/_}.log"
+}
+
+# Runs a command as one check; its output is shown only when it fails.
+check() {  # name command...
+    local name=$1 log began=$SECONDS
+    log=$(log_of "$1")
+    shift
+    if "$@" >"$log" 2>&1; then
+        passed=$((passed + 1))
+        echo "ok      $name ($((SECONDS - began)) s)"
+    else
+        failed=$((failed + 1))
+        echo "FAILED  $name ($((SECONDS - began)) s), the whole log is $log:"
+        tail -n 40 "$log" | sed 's/^/        /'
+    fi
+}
+
+# Runs a GoogleTest program and counts each of its tests. A program that crashes, hangs or has no
+# tests counts as one more failure.
+check_tests() {  # name seconds command...
+    local name=$1 seconds=$2 log began=$SECONDS status=0 ok bad
+    log=$(log_of "$1")
+    shift 2
+    # Into a file, since a program that it leaves running would keep a pipe open.
+    timeout -k 10 "$seconds" "$@" >"$log" 2>&1 </dev/null || status=$?
+    sed -i 's/\r$//' "$log"
+    ok=$(grep -c '^\[       OK \]' "$log")
+    bad=$(grep -cE '^\[  FAILED  \] [^ ]+ \([0-9]+ ms\)' "$log")
+    if [ "$bad" -eq 0 ] && { [ "$status" -ne 0 ] || [ "$ok" -eq 0 ]; }; then
+        bad=1
+        echo "FAILED  $name ended early with status $status, the whole log is $log:"
+        tail -n 20 "$log" | sed 's/^/        /'
+    elif [ "$bad" -ne 0 ]; then
+        echo "FAILED  $name, the whole log is $log:"
+        awk '/^\[ RUN /{text = ""} {text = text "        " $0 "\n"}
+             /^\[  FAILED  \] [^ ]+ \([0-9]+ ms\)/{printf "%s", text}' "$log" | head -n 200
+    fi
+    passed=$((passed + ok))
+    failed=$((failed + bad))
+    echo "        $name: $ok passed, $bad failed ($((SECONDS - began)) s)"
+}
+
+# Says the sum; true when nothing failed.
+report() {
+    echo "$passed passed, $failed failed"
+    [ "$failed" -eq 0 ]
+}

@@ -1,0 +1,13 @@
+// The Demos tab's part of the main window's table.
+#pragma once
+
+#include <span>
+
+#include "platform/form_table.h"
+
+namespace zentar {
+
+std::span<const ControlRow> DemosTabControlRows();
+std::span<const MenuRow> DemosMenuRows();
+
+}  // namespace zentar

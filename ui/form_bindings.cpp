@@ -1,0 +1,78 @@
+#include "ui/form_bindings.h"
+
+#include "ui/resource.h"
+
+namespace zentar {
+
+GameSelectionControls GameSelectionControlsOf(Form& Form2) {
+    return {
+        .optGame = {&Form2.GetOptionButton(IDC_optGameQuake1),
+                    &Form2.GetOptionButton(IDC_optGameQuake2),
+                    &Form2.GetOptionButton(IDC_optGameQuake3)},
+        .mnuGame = {&Form2.GetMenu(IDM_mnuGameQuake1), &Form2.GetMenu(IDM_mnuGameQuake2),
+                    &Form2.GetMenu(IDM_mnuGameQuake3)},
+        .mnuGameGetFolder = Form2.GetMenu(IDM_mnuGameGetFolder),
+        .mnuGameCurrentFolders = Form2.GetMenu(IDM_mnuGameCurrentFolders),
+        .labMod = Form2.GetLabel(IDC_labMod),
+        .lstMods = Form2.GetListBox(IDC_lstMods),
+        .chkShowAllDemos = Form2.GetCheckBox(IDC_chkShowAllDemos),
+    };
+}
+
+SettingsControls SettingsControlsOf(Form& Form2) {
+    return {
+        .chkShowAllDemos = Form2.GetCheckBox(IDC_chkShowAllDemos),
+        .optTextNo = Form2.GetOptionButton(IDC_optTextNo),
+        .optTextYes = Form2.GetOptionButton(IDC_optTextYes),
+        .txtDemoFilter = Form2.GetTextBox(IDC_txtDemoFilter),
+    };
+}
+
+DemosTabControls DemosTabControlsOf(Form& Form2) {
+    return {
+        .lstDemos = Form2.GetListBox(IDC_lstDemos),
+        .labNumDemos = Form2.GetLabel(IDC_labNumDemos),
+        .fraDemos = Form2.GetFrame(IDC_fraDemos),
+        .fraTextContain = Form2.GetFrame(IDC_fraTextContain),
+        .optTextNo = Form2.GetOptionButton(IDC_optTextNo),
+        .optTextYes = Form2.GetOptionButton(IDC_optTextYes),
+        .chkShowAllDemos = Form2.GetCheckBox(IDC_chkShowAllDemos),
+        .txtDemoFilter = Form2.GetTextBox(IDC_txtDemoFilter),
+        .lstDemoFilter = Form2.GetListBox(IDC_lstDemoFilter),
+        .cmdFilter = Form2.GetButton(IDC_cmdFilter),
+        .labDemo1 = Form2.GetLabel(IDC_labDemo1),
+        .labDemo2 = Form2.GetLabel(IDC_labDemo2),
+        .labFilterInfo = Form2.GetLabel(IDC_labFilterInfo),
+        .fraDemoProperties = Form2.GetFrame(IDC_fraDemoProperties),
+        .labDemoVersion = Form2.GetLabel(IDC_labDemoVersion),
+        .labDemoName = Form2.GetLabel(IDC_labDemoName),
+        .labDemoMap = Form2.GetLabel(IDC_labDemoMap),
+        .labDemoSize = Form2.GetLabel(IDC_labDemoSize),
+        .labDemoDate = Form2.GetLabel(IDC_labDemoDate),
+        .mnuDemosPlay = Form2.GetMenu(IDM_mnuDemosPlay),
+        .mnuDemosDelete = Form2.GetMenu(IDM_mnuDemosDelete),
+        .mnuDemosRename = Form2.GetMenu(IDM_mnuDemosRename),
+        .mnuDemosRenameMap = Form2.GetMenu(IDM_mnuDemosRenameMap),
+        .mnuDemosCopy = Form2.GetMenu(IDM_mnuDemosCopy),
+        .mnuDemosMove = Form2.GetMenu(IDM_mnuDemosMove),
+        .mnuDemosDeleteAll = Form2.GetMenu(IDM_mnuDemosDeleteAll),
+        .mnuDemosSearch = Form2.GetMenu(IDM_mnuDemosSearch),
+        .mnuDemosSearchAll = Form2.GetMenu(IDM_mnuDemosSearchAll),
+        .mnuDemosSearchDesc = Form2.GetMenu(IDM_mnuDemosSearchDesc),
+        .mnuDemosSearchMap = Form2.GetMenu(IDM_mnuDemosSearchMap),
+        .mnuDemosRefresh = Form2.GetMenu(IDM_mnuDemosRefresh),
+    };
+}
+
+PreferencesControls PreferencesControlsOf(Form& Form4) {
+    return {
+        .txtRemote = Form4.GetTextBox(IDC_txtRemote),
+        .cmdRemote = Form4.GetButton(IDC_cmdRemote),
+        .chkExpert = Form4.GetCheckBox(IDC_chkExpert),
+        .chkAutoShowAll = Form4.GetCheckBox(IDC_chkAutoShowAll),
+        .chkAutoNextShot = Form4.GetCheckBox(IDC_chkAutoNextShot),
+        .chkAutoNextDemo = Form4.GetCheckBox(IDC_chkAutoNextDemo),
+    };
+}
+
+}  // namespace zentar

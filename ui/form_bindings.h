@@ -1,0 +1,17 @@
+// Which controls of a window belong to which part of the program.
+#pragma once
+
+#include "core/game_selection.h"
+#include "core/preferences.h"
+#include "core/settings_file.h"
+#include "demos/demos_tab_controls.h"
+#include "platform/form.h"
+
+namespace zentar {
+
+GameSelectionControls GameSelectionControlsOf(Form& Form2);
+SettingsControls SettingsControlsOf(Form& Form2);
+DemosTabControls DemosTabControlsOf(Form& Form2);
+PreferencesControls PreferencesControlsOf(Form& Form4);
+
+}  // namespace zentar

@@ -1,0 +1,97 @@
+// Numbers of everything that a window is made of: controls, menu entries, windows, icons.
+//
+// Tests and accessibility tools find a control by its number, so a number never changes its
+// meaning. Each is unique in the whole program.
+#pragma once
+
+// Icons
+#define IDI_ZENTAR 1
+#define IDI_TAB_SHOTS 11
+#define IDI_TAB_DEMOS 12
+#define IDI_TAB_MISC 13
+#define IDI_TAB_Q3TEXT 14
+#define IDI_TAB_FIRSTAID 15
+
+// Windows
+#define IDW_Form1 101
+#define IDW_Form2 102
+#define IDW_Form4 104
+
+// Splash
+#define IDC_labLoading 1001
+#define IDC_labVersion 1002
+
+// Main window
+#define IDC_optGameQuake1 1101
+#define IDC_optGameQuake2 1102
+#define IDC_optGameQuake3 1103
+#define IDC_labMod 1104
+#define IDC_lstMods 1105
+#define IDC_SSTab1 1106
+#define IDC_tmrQ3Game 1107
+#define IDC_pagShots 1111
+#define IDC_pagDemos 1112
+#define IDC_pagMisc 1113
+#define IDC_pagQ3Text 1114
+#define IDC_pagFirstAid 1115
+
+// Demos tab
+#define IDC_lstDemos 1201
+#define IDC_labNumDemos 1202
+#define IDC_fraDemoProperties 1203
+#define IDC_labDemoVersion 1204
+#define IDC_labDemoName 1205
+#define IDC_labDemoMap 1206
+#define IDC_labDemoSize 1207
+#define IDC_labDemoDate 1208
+#define IDC_fraDemos 1209
+#define IDC_fraTextContain 1210
+#define IDC_optTextNo 1211
+#define IDC_optTextYes 1212
+#define IDC_chkShowAllDemos 1213
+#define IDC_txtDemoFilter 1214
+#define IDC_lstDemoFilter 1215
+#define IDC_cmdFilter 1216
+#define IDC_labDemo1 1217
+#define IDC_labDemo2 1218
+#define IDC_labFilterInfo 1219
+
+// Preferences
+#define IDC_tabPreferences 1401
+#define IDC_pagGeneral 1402
+#define IDC_labRemote 1403
+#define IDC_txtRemote 1404
+#define IDC_cmdRemote 1405
+#define IDC_chkExpert 1406
+#define IDC_chkAutoShowAll 1407
+#define IDC_chkAutoNextShot 1408
+#define IDC_chkAutoNextDemo 1409
+
+// Menu bar
+#define IDM_mnuProgram 3001
+#define IDM_mnuProgramPreferences 3002
+#define IDM_mnuProgramExit 3003
+#define IDM_mnuGame 3011
+#define IDM_mnuGameQuake1 3012
+#define IDM_mnuGameQuake2 3013
+#define IDM_mnuGameQuake3 3014
+#define IDM_mnuGameGetFolder 3015
+#define IDM_mnuGameCurrentFolders 3016
+#define IDM_mnuHelp 3021
+#define IDM_mnuHelpTopics 3022
+#define IDM_mnuHelpAbout 3023
+
+// Popup menu "Demos"
+#define IDM_mnuDemos 3101
+#define IDM_mnuDemosPlay 3102
+#define IDM_mnuDemosDelete 3103
+#define IDM_mnuDemosRename 3104
+#define IDM_mnuDemosRenameMap 3105
+#define IDM_mnuDemosCopy 3106
+#define IDM_mnuDemosMove 3107
+#define IDM_mnuDemosDeleteAll 3108
+#define IDM_mnuDemosSearch 3109
+#define IDM_mnuDemosSearchAll 3110
+#define IDM_mnuDemosSearchDesc 3111
+#define IDM_mnuDemosSearchMap 3112
+#define IDM_mnuDemosRefresh 3113

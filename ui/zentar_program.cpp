@@ -1,0 +1,76 @@
+#include "ui/zentar_program.h"
+
+#include "core/messages.h"
+#include "core/text.h"
+#include "platform/shell.h"
+#include "platform/window_services.h"
+#include "ui/form_bindings.h"
+#include "ui/form_tables.h"
+#include "ui/resource.h"
+
+namespace zentar {
+
+ZentarProgram::ZentarProgram(const Platform& platform) : platform_(platform) {}
+
+ZentarProgram::~ZentarProgram() = default;
+
+void ZentarProgram::Start() {
+    state_.ProgramFolder = WithBackslash(LowerCase(platform_.shell.ProgramFolder()));
+    const std::unique_ptr<Form> Form1 = platform_.forms.Create(SplashTable());
+    Form1->Show();
+    platform_.windows.PumpPending();
+    BuildMainWindow();
+    BindMainWindow();
+    life_->Form2_Load();
+    Form2_->Show();
+}
+
+void ZentarProgram::BuildMainWindow() {
+    Form2_ = platform_.forms.Create(MainWindowTable());
+    Form& Form2 = *Form2_;
+    demos_ = std::make_unique<DemosTab>(
+        state_, platform_, DemosTabControlsOf(Form2), [&Form2] { Form2.ShowPopup(IDM_mnuDemos); },
+        [this] { return state_.FirstActivationDone; });
+    GameFollowers& followers = *this;
+    games_ = std::make_unique<GameSelection>(state_, platform_, GameSelectionControlsOf(Form2),
+                                             followers);
+    life_ = std::make_unique<ProgramLife>(state_, platform_, *games_, SettingsControlsOf(Form2),
+                                          Form2.GetTab(IDC_SSTab1), Form2.GetTimer(IDC_tmrQ3Game));
+}
+
+void ZentarProgram::BindMainWindow() {
+    Form& Form2 = *Form2_;
+    FormEvents events;
+    events.activate = [this] { life_->Form2_Activate(); };
+    events.queryUnload = [this] { return life_->Form2_QueryUnload(); };
+    events.sessionEnding = [this] { life_->Form2_SessionEnding(); };
+    Form2.SetEvents(std::move(events));
+    Form2.GetMenu(IDM_mnuProgramPreferences).SetClick([this] { ShowPreferences(); });
+    Form2.GetMenu(IDM_mnuProgramExit).SetClick([this] { Form2_->Close(); });
+    Form2.GetMenu(IDM_mnuHelpAbout).SetClick([this] {
+        platform_.windows.Ask(messages::AboutZentar());
+    });
+}
+
+void ZentarProgram::ShowPreferences() {
+    if (!Form4_) {
+        Form4_ = platform_.forms.Create(PreferencesTable());
+        preferences_ =
+            std::make_unique<Preferences>(state_, platform_, PreferencesControlsOf(*Form4_));
+        FormEvents events;
+        events.activate = [this] { preferences_->Form4_Activate(); };
+        Form4_->SetEvents(std::move(events));
+    }
+    preferences_->Form4_Load();
+    Form4_->ShowModal();
+}
+
+void ZentarProgram::FillDemoFilterList(const GameInfo& game) { demos_->FillPhraseList(game); }
+
+void ZentarProgram::ArrangeDemoProperties(const GameInfo& game) {
+    demos_->ArrangeProperties(game.id == kQuake3);
+}
+
+void ZentarProgram::RefreshDemoList() { demos_->RefreshDemoList(); }
+
+}  // namespace zentar

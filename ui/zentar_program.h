@@ -1,0 +1,49 @@
+// The whole program put together: its windows, built from their tables, and the subsystems that
+// work in them. Needs nothing but a Platform, so tests run it in memory.
+#pragma once
+
+#include <memory>
+
+#include "core/game_selection.h"
+#include "core/preferences.h"
+#include "core/program_life.h"
+#include "core/program_state.h"
+#include "demos/demos_tab.h"
+#include "platform/form.h"
+#include "platform/platform.h"
+
+namespace zentar {
+
+class ZentarProgram final : private GameFollowers {
+  public:
+    explicit ZentarProgram(const Platform& platform);
+    ~ZentarProgram() override;
+    ZentarProgram(const ZentarProgram&) = delete;
+    ZentarProgram& operator=(const ZentarProgram&) = delete;
+
+    // Shows the splash while the main window loads, then the main window. The message loop is the
+    // caller's.
+    void Start();
+
+    ProgramState& State() { return state_; }
+
+  private:
+    void BuildMainWindow();
+    void BindMainWindow();
+    void ShowPreferences();
+
+    void FillDemoFilterList(const GameInfo& game) override;
+    void ArrangeDemoProperties(const GameInfo& game) override;
+    void RefreshDemoList() override;
+
+    Platform platform_;
+    ProgramState state_;
+    std::unique_ptr<Form> Form2_;
+    std::unique_ptr<DemosTab> demos_;
+    std::unique_ptr<GameSelection> games_;
+    std::unique_ptr<ProgramLife> life_;
+    std::unique_ptr<Form> Form4_;
+    std::unique_ptr<Preferences> preferences_;
+};
+
+}  // namespace zentar
