@@ -52,9 +52,15 @@ class Control {
     // Moves the control's upper edge inside its parent, in twips (15 of them are one unit of the
     // control table, a pixel at 96 dpi).
     virtual void SetTop(int twips) = 0;
+    // What is explained when the mouse rests on the control; at first what its table row says. An
+    // empty text is no tooltip.
+    virtual void SetTooltip(const std::string& text) = 0;
 };
 
 class Label : public Control {};
+
+// Shows the icon of its table row; greyed while it is disabled, or inside a disabled frame.
+class Picture : public Control {};
 
 // A container that draws a caption and a border around its controls. Disabling it keeps input from
 // all of them.

@@ -83,6 +83,9 @@ class FileSystem {
     virtual Status Replace(const std::string& from, const std::string& to) = 0;
     // Copies a file; AlreadyExists when `to` exists and `overwrite` is false.
     virtual Status Copy(const std::string& from, const std::string& to, bool overwrite) = 0;
+    // Whether two paths lead to one and the same file: by another spelling, a link, or a drive that
+    // stands for a folder.
+    virtual Result<bool> IsSameFile(const std::string& one, const std::string& other) = 0;
     // Deletes a file for good. AccessDenied when it is read-only.
     virtual Status Delete(const std::string& path) = 0;
     // Creates one folder level; AlreadyExists when it is there.

@@ -41,6 +41,7 @@ class Form {
     virtual Control& AnyControl(int id) = 0;
     virtual Label& GetLabel(int id) = 0;
     virtual Frame& GetFrame(int id) = 0;
+    virtual Picture& GetPicture(int id) = 0;
     virtual Button& GetButton(int id) = 0;
     virtual CheckBox& GetCheckBox(int id) = 0;
     virtual OptionButton& GetOptionButton(int id) = 0;

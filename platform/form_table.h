@@ -33,6 +33,7 @@ enum class ControlKind : std::uint8_t {
     TextBox,
     ListBox,
     Frame,
+    Picture,  // `icon` fills its rectangle
     Tab,      // the tab control
     TabPage,  // a page of the tab control that is its parent; fills it, whatever its rectangle says
     Timer,    // no window; `interval` milliseconds
@@ -60,6 +61,7 @@ enum ControlFlags : std::uint16_t {
     PressedByEnter = 32,  // buttons
     Centred = 64,         // labels
     Heading = 128,        // labels: larger type
+    BreaksWords = 256,    // labels: a word that is wider than the label goes on in the next line
 };
 
 struct ControlRow {

@@ -4,7 +4,18 @@
 #include <optional>
 #include <string>
 
+#include "platform/result.h"
+
 namespace zentar {
+
+// A program to be started, and the command line that it gets.
+struct ProgramStart {
+    std::string folder;      // where the executable is, with a backslash; the program's current one
+    std::string executable;  // its file name, which is the command line's first word
+    std::string arguments;   // the rest of the command line, as it stands; begins with a blank
+
+    bool operator==(const ProgramStart&) const = default;
+};
 
 class Shell {
   public:
@@ -19,6 +30,12 @@ class Shell {
     // Lets the user pick a folder of the file system; nothing when the user cancels. The dialog is
     // owned by whichever window of the program is in front and shows `title` above the folders.
     virtual std::optional<std::string> PickFolder(const std::string& title) = 0;
+
+    // Starts the executable of exactly that folder; its window opens minimised, and active. Does
+    // not wait for it.
+    virtual Status StartProgram(const ProgramStart& start) = 0;
+    // Has a web address opened by the program that the user's system has for it.
+    virtual Status OpenAddress(const std::string& address) = 0;
 };
 
 }  // namespace zentar

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace zentar {
@@ -22,6 +23,15 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
+// A question that the user answers with a line of text. Prompt lines are separated by CR LF.
+struct TextQuestion {
+    std::string title;
+    std::string prompt;
+    std::string answer;  // offered at first, all of it selected
+
+    bool operator==(const TextQuestion&) const = default;
+};
+
 enum class Beep : std::uint8_t { Information, Exclamation };
 enum class PollKey : std::uint8_t { Shift, Control };
 enum class Pointer : std::uint8_t { Default, Hourglass };
@@ -33,6 +43,11 @@ class WindowServices {
     // Shows the box over whichever window of the program is in front. Closing a Yes/No box is not
     // possible without an answer. Other event procedures may run meanwhile.
     virtual Answer Ask(const Message& message) = 0;
+    // Shows an input box over that window; gives the answer as it was typed, or nothing when the
+    // user cancels. Other event procedures may run meanwhile.
+    virtual std::optional<std::string> AskText(const TextQuestion& question) = 0;
+    // Whether a top-level window of any program has exactly this title.
+    virtual bool HasWindowTitled(const std::string& title) = 0;
     virtual void Sound(Beep beep) = 0;
     // The asynchronous state of a key: the high bit says "down now", the low bit "pressed since
     // the last query".

@@ -19,6 +19,20 @@ DWORD CommonStyle(const ControlRow& row) {
            ((row.flags & StartsDisabled) != 0 ? WS_DISABLED : 0);
 }
 
+// Where the keyboard could do nothing, it is not to go.
+bool TakesFocus(ControlKind kind) {
+    switch (kind) {
+        case ControlKind::Label:
+        case ControlKind::Frame:
+        case ControlKind::Picture:
+        case ControlKind::TabPage:
+        case ControlKind::Timer:
+            return false;
+        default:
+            return true;
+    }
+}
+
 }  // namespace
 
 ControlWindow::ControlWindow(const ControlPlace& place, const ControlStyle& style)
@@ -72,7 +86,8 @@ std::optional<LRESULT> ControlWindow::OnMessage(UINT message, WPARAM /*wParam*/,
     if (!events_.menuRequested) {
         return std::nullopt;
     }
-    if (message == WM_RBUTTONDOWN) {
+    // Two clicks shortly one after the other ask twice.
+    if (message == WM_RBUTTONDOWN || message == WM_RBUTTONDBLCLK) {
         RaiseMenuRequest(false);
         return 0;
     }
@@ -143,10 +158,16 @@ std::string ControlWindow::Text() const {
     return Narrow(text);
 }
 
-void ControlWindow::SetFocus() { host_.Focus().Give(handle_); }
+void ControlWindow::SetFocus() {
+    if (TakesFocus(row_.kind)) {
+        host_.Focus().Give(handle_);
+    }
+}
 
 bool ControlWindow::HasFocus() const { return host_.Focus().Has(handle_); }
 
 void ControlWindow::SetTop(int twips) { host_.MoveTop(row_, twips); }
+
+void ControlWindow::SetTooltip(const std::string& text) { host_.SetTooltipOf(handle_, text); }
 
 }  // namespace zentar

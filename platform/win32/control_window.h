@@ -24,6 +24,7 @@ class ControlHost {
     virtual EventDispatcher& Dispatcher() = 0;
     virtual FocusKeeper& Focus() = 0;
     virtual void MoveTop(const ControlRow& row, int twips) = 0;
+    virtual void SetTooltipOf(HWND control, const std::string& text) = 0;
     // A control's menu is about to be asked for; a popup opens where that came from.
     virtual void NoteMenuRequest(bool byKeyboard) = 0;
 };
@@ -67,6 +68,8 @@ class ControlWindow {
     virtual HBRUSH OnColour(HDC context);
     // After the control got another size or font.
     virtual void OnLayout() {}
+    // After a control that this one stands in was enabled or disabled.
+    virtual void OnEnclosingEnabled() {}
     // The dpi of the window, at first and whenever it changes.
     virtual void OnDpi(int /*dpi*/) {}
     // Raises keyDown; true when the program used the key up.
@@ -82,6 +85,7 @@ class ControlWindow {
     void SetFocus();
     bool HasFocus() const;
     void SetTop(int twips);
+    void SetTooltip(const std::string& text);
 
   protected:
     // The control's own messages, before the system's window procedure; nothing passes them on.
@@ -127,6 +131,7 @@ class ControlBase : public Interface, public ControlWindow {
     void SetFocus() override { ControlWindow::SetFocus(); }
     bool HasFocus() const override { return ControlWindow::HasFocus(); }
     void SetTop(int twips) override { ControlWindow::SetTop(twips); }
+    void SetTooltip(const std::string& text) override { ControlWindow::SetTooltip(text); }
 };
 
 }  // namespace zentar

@@ -10,6 +10,7 @@ DWORD LabelStyle(const ControlRow& row) {
     // SS_NOTIFY makes the mouse see the label at all, for its tooltip.
     const DWORD alignment = (row.flags & Centred) != 0 ? SS_CENTER : SS_LEFT;
     return SS_NOPREFIX | SS_NOTIFY | WS_GROUP | alignment |
+           ((row.flags & BreaksWords) != 0 ? SS_EDITCONTROL : 0) |
            (row.rect.height < kTwoLines ? SS_ENDELLIPSIS : 0);
 }
 

@@ -5,6 +5,16 @@
 #include "platform/win32/win32_text.h"
 
 namespace zentar {
+namespace {
+
+BOOL CALLBACK TellOne(HWND window, LPARAM /*unused*/) {
+    if (ControlWindow* control = ControlWindow::Of(window)) {
+        control->OnEnclosingEnabled();
+    }
+    return TRUE;
+}
+
+}  // namespace
 
 const wchar_t* PanelClass(HINSTANCE instance) {
     constexpr const wchar_t* kName = L"ZentarPanel";
@@ -18,6 +28,8 @@ const wchar_t* PanelClass(HINSTANCE instance) {
     RegisterClassExW(&windowClass);
     return kName;
 }
+
+void TellEnclosed(HWND panel) { EnumChildWindows(panel, TellOne, 0); }
 
 Win32Frame::Win32Frame(const ControlPlace& place)
     : Panel(place, place.surface), bordered_((place.row.flags & Borderless) == 0) {}

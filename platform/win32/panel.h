@@ -8,6 +8,9 @@ namespace zentar {
 
 // The class of these windows; registered on the first call.
 const wchar_t* PanelClass(HINSTANCE instance);
+// The system tells only the panel itself that it was enabled or disabled; this tells what stands in
+// it.
+void TellEnclosed(HWND panel);
 
 // Paints the surface and hands the controls' messages back to them.
 template <typename Interface>
@@ -27,6 +30,9 @@ class Panel : public ControlBase<Interface> {
             GetClientRect(this->Handle(), &client);
             FillRect(reinterpret_cast<HDC>(wParam), &client, SurfaceBrush(inner_));
             return TRUE;
+        }
+        if (message == WM_ENABLE) {
+            TellEnclosed(this->Handle());
         }
         if (message >= WM_CTLCOLOREDIT && message <= WM_CTLCOLORSTATIC &&
             ControlWindow::Of(reinterpret_cast<HWND>(lParam)) == nullptr) {

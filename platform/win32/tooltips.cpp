@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "platform/win32/units.h"
 #include "platform/win32/win32_text.h"
 
@@ -20,26 +22,43 @@ void Tooltips::CreateTipWindow() {
     SendMessageW(window_, TTM_SETDELAYTIME, TTDT_AUTOPOP, kReadingTime);
     SetWidth();
     for (const Tip& tip : tips_) {
-        AddTool(tip);
+        SendTool(TTM_ADDTOOLW, tip);
     }
 }
 
-void Tooltips::Add(HWND control, const char* text) {
-    if (*text != '\0') {
-        tips_.push_back({control, text});
+void Tooltips::Set(HWND control, const std::string& text) {
+    const auto tip = std::find_if(tips_.begin(), tips_.end(),
+                                  [control](const Tip& each) { return each.control == control; });
+    if (tip == tips_.end()) {
+        if (!text.empty()) {
+            tips_.push_back({control, text});
+            SendTool(TTM_ADDTOOLW, tips_.back());
+        }
+        return;
     }
+    tip->text = text;
+    if (!text.empty()) {
+        SendTool(TTM_UPDATETIPTEXTW, *tip);
+        return;
+    }
+    SendTool(TTM_DELTOOLW, *tip);
+    tips_.erase(tip);
 }
 
-void Tooltips::AddTool(const Tip& tip) const {
+// Nothing to tell anyone while there is no tip window: it takes all tips once it is made.
+void Tooltips::SendTool(UINT message, const Tip& tip) const {
+    if (window_ == nullptr) {
+        return;
+    }
     std::wstring wide = Widen(tip.text);
     TTTOOLINFOW tool{};
     // The size that both versions of the common controls know.
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_IDISHWND;
+    tool.uFlags = TTF_IDISHWND | TTF_TRANSPARENT;  // a tip is never in the mouse's way
     tool.hwnd = form_;
     tool.uId = reinterpret_cast<UINT_PTR>(tip.control);
     tool.lpszText = wide.data();
-    SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(window_, message, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void Tooltips::SetDpi(int dpi) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <vector>
 
 namespace zentar {
@@ -10,8 +11,8 @@ namespace zentar {
 class Tooltips {
   public:
     Tooltips(HWND form, HINSTANCE instance) : form_(form), instance_(instance) {}
-    // The text must stay; an empty one is no tooltip.
-    void Add(HWND control, const char* text);
+    // In the place of what the control had; an empty text is no tooltip.
+    void Set(HWND control, const std::string& text);
     void SetDpi(int dpi);
     // Shows the tips what the mouse does. (They could look at each control's messages themselves,
     // but that makes a list slow to fill.)
@@ -20,12 +21,12 @@ class Tooltips {
   private:
     struct Tip {
         HWND control;
-        const char* text;
+        std::string text;
     };
 
     void CreateTipWindow();
     void SetWidth() const;
-    void AddTool(const Tip& tip) const;
+    void SendTool(UINT message, const Tip& tip) const;
 
     HWND form_;
     HINSTANCE instance_;

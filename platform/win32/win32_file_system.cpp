@@ -83,6 +83,18 @@ bool IsHeldElsewhere(const std::wstring& nativePath) {
     return !file && GetLastError() == ERROR_SHARING_VIOLATION;
 }
 
+// What tells a file from every other one.
+Result<BY_HANDLE_FILE_INFORMATION> IdentityOf(const std::wstring& nativePath) {
+    const UniqueFile file(CreateFileW(nativePath.c_str(), 0,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    BY_HANDLE_FILE_INFORMATION identity{};
+    if (!file || !GetFileInformationByHandle(file.Get(), &identity)) {
+        return LastFileError();
+    }
+    return identity;
+}
+
 }  // namespace
 
 Status Win32FileSystem::Enumerate(const std::string& folder, const EntryVisitor& visit) {
@@ -211,6 +223,22 @@ Status Win32FileSystem::Copy(const std::string& from, const std::string& to, boo
         DeleteFileW(target->c_str());
     }
     return copied;
+}
+
+Result<bool> Win32FileSystem::IsSameFile(const std::string& one, const std::string& other) {
+    const std::optional<std::wstring> first = NativePath(one);
+    const std::optional<std::wstring> second = NativePath(other);
+    if (!first || !second) {
+        return FileError::NotFound;
+    }
+    const Result<BY_HANDLE_FILE_INFORMATION> a = IdentityOf(*first);
+    const Result<BY_HANDLE_FILE_INFORMATION> b = IdentityOf(*second);
+    if (!a.Ok() || !b.Ok()) {
+        return a.Ok() ? b.Error() : a.Error();
+    }
+    return a.Value().dwVolumeSerialNumber == b.Value().dwVolumeSerialNumber &&
+           a.Value().nFileIndexHigh == b.Value().nFileIndexHigh &&
+           a.Value().nFileIndexLow == b.Value().nFileIndexLow;
 }
 
 Status Win32FileSystem::Delete(const std::string& path) {

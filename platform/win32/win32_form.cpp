@@ -144,6 +144,7 @@ Kind& Win32Form::Find(int id) {
 Control& Win32Form::AnyControl(int id) { return Find<Control>(id); }
 Label& Win32Form::GetLabel(int id) { return Find<Label>(id); }
 Frame& Win32Form::GetFrame(int id) { return Find<Frame>(id); }
+Picture& Win32Form::GetPicture(int id) { return Find<Picture>(id); }
 Button& Win32Form::GetButton(int id) { return Find<Button>(id); }
 CheckBox& Win32Form::GetCheckBox(int id) { return Find<CheckBox>(id); }
 OptionButton& Win32Form::GetOptionButton(int id) { return Find<OptionButton>(id); }

@@ -48,6 +48,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     Control& AnyControl(int id) override;
     Label& GetLabel(int id) override;
     Frame& GetFrame(int id) override;
+    Picture& GetPicture(int id) override;
     Button& GetButton(int id) override;
     CheckBox& GetCheckBox(int id) override;
     OptionButton& GetOptionButton(int id) override;
@@ -67,6 +68,9 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     EventDispatcher& Dispatcher() override { return session_.dispatcher; }
     FocusKeeper& Focus() override { return focus_; }
     void MoveTop(const ControlRow& row, int twips) override;
+    void SetTooltipOf(HWND control, const std::string& text) override {
+        tooltips_->Set(control, text);
+    }
     void NoteMenuRequest(bool byKeyboard) override { menuByKeyboard_ = byKeyboard; }
 
     // Building (win32_form_build.cpp)

@@ -8,6 +8,7 @@
 #include "platform/win32/label.h"
 #include "platform/win32/list_box.h"
 #include "platform/win32/panel.h"
+#include "platform/win32/picture.h"
 #include "platform/win32/tab_control.h"
 #include "platform/win32/text_box.h"
 #include "platform/win32/win32_form.h"
@@ -81,7 +82,7 @@ void Win32Form::CreateControl(const ControlRow& row) {
     if (row.kind == ControlKind::TabPage) {
         dynamic_cast<Win32TabControl&>(FindControl(row.parent)->AsControl()).AddPage(control);
     } else {
-        tooltips_->Add(control.Handle(), row.tooltip);
+        tooltips_->Set(control.Handle(), row.tooltip);
     }
 }
 
@@ -118,6 +119,8 @@ std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place)
             return std::make_unique<Win32ListBox>(place);
         case ControlKind::Frame:
             return std::make_unique<Win32Frame>(place);
+        case ControlKind::Picture:
+            return std::make_unique<Win32Picture>(place);
         case ControlKind::Tab:
             return std::make_unique<Win32TabControl>(place);
         case ControlKind::TabPage:

@@ -78,12 +78,33 @@ struct IconHandleTraits {
     static bool Close(Type handle) { return DestroyIcon(handle) != FALSE; }
 };
 
+struct BitmapHandleTraits {
+    using Type = HBITMAP;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DeleteObject(handle) != FALSE; }
+};
+
+struct ProcessHandleTraits {
+    using Type = HANDLE;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return CloseHandle(handle) != FALSE; }
+};
+
+struct MemoryContextTraits {
+    using Type = HDC;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DeleteDC(handle) != FALSE; }
+};
+
 using UniqueFile = UniqueHandle<FileHandleTraits>;
 using UniqueSearch = UniqueHandle<SearchHandleTraits>;
 using UniqueWindow = UniqueHandle<WindowHandleTraits>;
 using UniqueMenu = UniqueHandle<MenuHandleTraits>;
 using UniqueFont = UniqueHandle<FontHandleTraits>;
 using UniqueIcon = UniqueHandle<IconHandleTraits>;
+using UniqueBitmap = UniqueHandle<BitmapHandleTraits>;
+using UniqueProcess = UniqueHandle<ProcessHandleTraits>;  // or one of its threads
+using UniqueMemoryContext = UniqueHandle<MemoryContextTraits>;
 
 // A window's device context, given back at the end of the scope.
 class WindowContext {

@@ -103,6 +103,16 @@ std::optional<std::wstring> NativePath(std::string_view path) {
     return Join(std::wstring(kLocalPrefix).append(whole.substr(0, 3)), Names(whole.substr(3)));
 }
 
+std::wstring PlainPath(const std::wstring& nativePath) {
+    const bool onShare = nativePath.starts_with(kSharePrefix);
+    const std::size_t prefix = onShare ? kSharePrefix.size() : kLocalPrefix.size();
+    std::wstring plain = (onShare ? L"\\\\" : L"") + nativePath.substr(prefix);
+    std::array<wchar_t, MAX_PATH> read{};
+    const DWORD length = GetFullPathNameW(plain.c_str(), MAX_PATH, read.data(), nullptr);
+    const bool same = length < read.size() && std::wstring_view(read.data(), length) == plain;
+    return same ? plain : nativePath;
+}
+
 bool MayBeCreated(std::wstring_view nativePath) {
     const std::wstring_view name = nativePath.substr(nativePath.rfind(L'\\') + 1);
     if (name.empty() || name.size() > kLongestName || name.back() == L'.' || name.back() == L' ') {

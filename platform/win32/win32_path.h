@@ -14,6 +14,10 @@ namespace zentar {
 // so that another file would be meant.
 std::optional<std::wstring> NativePath(std::string_view path);
 
+// A native path as other programs know it ("C:\..."), of which the old ones take no other form. The
+// native path itself where Windows would read that as something else, or finds it too long.
+std::wstring PlainPath(const std::wstring& nativePath);
+
 // Whether new files may get the name at the end of a native path. Names that only this form can
 // hold (a dot or a blank at the end, "con", "nul.txt") are refused: other programs, the user's
 // own among them, could neither open nor delete such a file.

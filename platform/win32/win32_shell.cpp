@@ -3,11 +3,14 @@
 #include <windows.h>
 
 #include <objbase.h>
+#include <shellapi.h>
 #include <shlobj.h>
 
 #include <memory>
 #include <string_view>
 
+#include "platform/win32/program_start.h"
+#include "platform/win32/win32_file_error.h"
 #include "platform/win32/win32_text.h"
 
 namespace zentar {
@@ -90,6 +93,26 @@ std::optional<std::string> Win32Shell::PickFolder(const std::string& title) {
     const OtherFormsDisabled others(session_.forms, browse.hwndOwner);
     const TaskMemory<ITEMIDLIST> picked(SHBrowseForFolderW(&browse));
     return picked ? PathOf(picked.get()) : std::nullopt;
+}
+
+Status Win32Shell::StartProgram(const ProgramStart& start) {
+    return StartProgramFile(start, session_.forms.DialogOwner());
+}
+
+// The shell would run a file as readily as open an address.
+Status Win32Shell::OpenAddress(const std::string& address) {
+    if (!address.starts_with("http://") && !address.starts_with("https://")) {
+        return FileError::BadName;
+    }
+    const std::wstring wide = Widen(address);
+    SHELLEXECUTEINFOW execute{};
+    execute.cbSize = sizeof execute;
+    execute.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
+    execute.hwnd = session_.forms.DialogOwner();
+    execute.lpVerb = L"open";
+    execute.lpFile = wide.c_str();
+    execute.nShow = SW_SHOWNORMAL;
+    return ShellExecuteExW(&execute) ? Status() : Status(LastFileError());
 }
 
 }  // namespace zentar

@@ -13,6 +13,8 @@ class Win32Shell : public Shell {
     std::string ProgramFolder() override;
     std::string WindowsFolder() override;
     std::optional<std::string> PickFolder(const std::string& title) override;
+    Status StartProgram(const ProgramStart& start) override;
+    Status OpenAddress(const std::string& address) override;
 
   private:
     Win32Session& session_;

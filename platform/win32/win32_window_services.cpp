@@ -3,7 +3,10 @@
 #include <windows.h>
 
 #include <array>
+#include <string>
+#include <string_view>
 
+#include "platform/win32/input_box.h"
 #include "platform/win32/win32_text.h"
 
 namespace zentar {
@@ -26,6 +29,23 @@ UINT IconFlag(MessageIcon icon) {
 UINT Flags(const Message& message) {
     return IconFlag(message.icon) | (message.buttons == MessageButtons::YesNo ? MB_YESNO : MB_OK) |
            (message.defaultButton == DefaultButton::Second ? MB_DEFBUTTON2 : MB_DEFBUTTON1);
+}
+
+struct TitleSearch {
+    std::wstring wanted;
+    std::wstring room;
+    bool found = false;
+};
+
+// Asks the system and not the window, which may belong to a program that hangs. Windows' own search
+// would take upper and lower case for the same.
+BOOL CALLBACK CompareTitle(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<TitleSearch*>(parameter);
+    const int length =
+        InternalGetWindowText(window, search.room.data(), static_cast<int>(search.room.size()));
+    search.found =
+        std::wstring_view(search.room).substr(0, static_cast<std::size_t>(length)) == search.wanted;
+    return search.found ? FALSE : TRUE;
 }
 
 // Asks the window under the pointer, if it is one of the program's, to choose the pointer anew.
@@ -57,6 +77,18 @@ Answer Win32WindowServices::Ask(const Message& message) {
         return Answer::Ok;
     }
     return pressed == IDYES ? Answer::Yes : Answer::No;
+}
+
+std::optional<std::string> Win32WindowServices::AskText(const TextQuestion& question) {
+    return ShowInputBox(question, session_);
+}
+
+bool Win32WindowServices::HasWindowTitled(const std::string& title) {
+    TitleSearch search{Widen(title), {}};
+    // One more than the title and its end, so that a longer one shows.
+    search.room.resize(search.wanted.size() + 2);
+    EnumWindows(CompareTitle, reinterpret_cast<LPARAM>(&search));
+    return search.found;
 }
 
 void Win32WindowServices::Sound(Beep beep) {

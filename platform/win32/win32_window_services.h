@@ -1,4 +1,4 @@
-// Message boxes, sounds, key states and the pointer of Windows.
+// Message boxes, input boxes, sounds, key states and the pointer of Windows.
 #pragma once
 
 #include "platform/win32/win32_session.h"
@@ -11,6 +11,8 @@ class Win32WindowServices : public WindowServices {
     explicit Win32WindowServices(Win32Session& session) : session_(session) {}
 
     Answer Ask(const Message& message) override;
+    std::optional<std::string> AskText(const TextQuestion& question) override;
+    bool HasWindowTitled(const std::string& title) override;
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
     void SetPointer(Pointer pointer) override;

@@ -20,6 +20,17 @@ constexpr ControlRow Row(int id, Kind kind, int parent, Rect rect, const char* c
     return row;
 }
 
+constexpr ControlRow PictureRow(int id, int parent, Rect rect, std::uint16_t flags = 0) {
+    ControlRow row = Row(id, Kind::Picture, parent, rect, "", flags);
+    row.icon = 1;
+    return row;
+}
+
+constexpr ControlRow Explained(ControlRow row, const char* tooltip) {
+    row.tooltip = tooltip;
+    return row;
+}
+
 constexpr ControlRow TimerRow(int id, int interval) {
     ControlRow row = Row(id, Kind::Timer, 0, {}, "");
     row.interval = interval;
@@ -33,7 +44,7 @@ constexpr std::array kControls = {
     Row(kOtherText, Kind::TextBox, 0, {140, 40, 120, 22}, "", StartsGrey),
     Row(kList, Kind::ListBox, 0, {10, 70, 120, 120}, ""),
     Row(kGreyList, Kind::ListBox, 0, {140, 70, 120, 120}, "", StartsGrey),
-    Row(kButton, Kind::Button, 0, {10, 200, 120, 24}, "Button"),
+    Explained(Row(kButton, Kind::Button, 0, {10, 200, 120, 24}, "Button"), "Click here."),
     Row(kDefaultButton, Kind::Button, 0, {140, 200, 120, 24}, "Go", PressedByEnter),
     Row(kDisabledButton, Kind::Button, 0, {10, 230, 120, 24}, "Disabled", StartsDisabled),
     Row(kHiddenButton, Kind::Button, 0, {140, 230, 120, 24}, "Hidden", StartsHidden),
@@ -46,6 +57,8 @@ constexpr std::array kControls = {
     Row(kInnerFrame, Kind::Frame, kFrame, {150, 20, 140, 90}, "", Borderless),
     Row(kOptionD, Kind::OptionButton, kInnerFrame, {10, 10, 80, 20}, "D"),
     Row(kOptionE, Kind::OptionButton, kInnerFrame, {10, 32, 80, 20}, "E"),
+    PictureRow(kPicture, kInnerFrame, {100, 10, 32, 32}),
+    PictureRow(kGreyPicture, kInnerFrame, {100, 50, 32, 32}, StartsDisabled),
     Row(kTabs, Kind::Tab, 0, {280, 140, 300, 150}, ""),
     Row(kPageOne, Kind::TabPage, kTabs, {}, "One"),
     Row(kButtonOne, Kind::Button, kPageOne, {10, 10, 120, 24}, "First"),

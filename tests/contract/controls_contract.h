@@ -45,6 +45,10 @@ class ControlsWorld {
     virtual bool TakesInput(Form& form, int id) = 0;
     virtual bool Seen(Form& form, int id) = 0;
     virtual bool Shown(Form& form) = 0;
+    // Whether a picture has lost its colours.
+    virtual bool ShownGrey(Form& form, int picture) = 0;
+    // What the mouse finds out about the control.
+    virtual std::string Tooltip(Form& form, int id) = 0;
     // The control's upper edge in its parent, in twips.
     virtual int TopTwips(Form& form, int id) = 0;
 };
@@ -62,6 +66,8 @@ enum ContractId {
     kInnerFrame,  // in kFrame, with the options D and E
     kOptionD,
     kOptionE,
+    kPicture,  // in kInnerFrame
+    kGreyPicture,
     kCheck,
     kTicked,
     kButton,
@@ -126,5 +132,6 @@ using ButtonsContract = ControlsContract;
 using TextAndListContract = ControlsContract;
 using FocusContract = ControlsContract;
 using FormContract = ControlsContract;
+using LooksContract = ControlsContract;
 
 }  // namespace zentar

@@ -207,6 +207,35 @@ TEST(ScriptedWindows, ABoxThatIsNotAsExpectedFailsTheTest) {
     EXPECT_NONFATAL_FAILURE(windows.Verify(), "never came");
 }
 
+TEST(ScriptedWindows, AnInputBoxThatIsNotAsExpectedFailsTheTest) {
+    const TextQuestion expected{"Rename Demo", "New name?", "duel"};
+    TextQuestion other = expected;
+    other.answer = "dual";
+    EventLog log;
+    ScriptedWindows windows(&log);
+    bool meanwhile = false;
+    windows.ExpectText(expected, "final", [&] { meanwhile = true; });
+    windows.ExpectText(expected, std::nullopt);
+    EXPECT_EQ(windows.AskText(expected), "final");
+    EXPECT_TRUE(meanwhile);
+    EXPECT_EQ(windows.AskText(expected), std::nullopt);
+    windows.ExpectText(expected, "final");
+    EXPECT_NONFATAL_FAILURE(windows.AskText(other), "the input box");
+    EXPECT_NONFATAL_FAILURE(windows.AskText(expected), "nobody expected");
+    windows.ExpectText(expected, "final");
+    EXPECT_NONFATAL_FAILURE(windows.Verify(), "never came");
+    EXPECT_EQ(log.Count("AskText Rename Demo"), 4U);
+}
+
+TEST(ScriptedWindows, AWindowIsKnownByItsWholeTitle) {
+    ScriptedWindows windows;
+    EXPECT_FALSE(windows.HasWindowTitled("Quake 2"));
+    windows.SetWindowTitles({"Quake 2"});
+    EXPECT_TRUE(windows.HasWindowTitled("Quake 2"));
+    EXPECT_FALSE(windows.HasWindowTitled("quake 2"));
+    EXPECT_FALSE(windows.HasWindowTitled("Quake"));
+}
+
 TEST(ScriptedWindows, AHeldKeyWasPressedOnlyOnce) {
     ScriptedWindows windows;
     windows.SetKeyState(PollKey::Shift, 0x8001);
@@ -222,6 +251,41 @@ TEST(ScriptedShell, AFolderDialogThatIsNotAsExpectedFailsTheTest) {
     EXPECT_EQ(shell.PickFolder("Where?"), "C:\\Games");
     shell.ExpectPick("Where?", std::nullopt);
     EXPECT_NONFATAL_FAILURE(shell.Verify(), "never came");
+}
+
+TEST(ScriptedShell, AProgramThatIsNotAsExpectedFailsTheTest) {
+    const ProgramStart expected{"C:\\Quake2\\", "quake2.exe", " +map a"};
+    ProgramStart other = expected;
+    other.arguments = " +map b";
+    EventLog log;
+    ScriptedShell shell(&log);
+    shell.ExpectStart(expected);
+    shell.ExpectStart(other, FileError::NotFound);
+    EXPECT_TRUE(Succeeded(shell.StartProgram(expected)));
+    EXPECT_TRUE(FailedWith(shell.StartProgram(other), FileError::NotFound));
+    EXPECT_EQ(shell.Started(), (std::vector<ProgramStart>{expected, other}));
+    shell.ExpectStart(expected);
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.StartProgram(other)), "[ +map b]");
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.StartProgram(other)), "nobody expected");
+    shell.ExpectStart(expected);
+    EXPECT_NONFATAL_FAILURE(shell.Verify(), "never came");
+    EXPECT_TRUE(log.Has("StartProgram C:\\Quake2\\quake2.exe +map a"));
+}
+
+TEST(ScriptedShell, AnAddressThatIsNotAsExpectedFailsTheTest) {
+    EventLog log;
+    ScriptedShell shell(&log);
+    shell.ExpectOpen("https://a.example/");
+    shell.ExpectOpen("https://b.example/", FileError::Other);
+    EXPECT_TRUE(Succeeded(shell.OpenAddress("https://a.example/")));
+    EXPECT_TRUE(FailedWith(shell.OpenAddress("https://b.example/"), FileError::Other));
+    shell.ExpectOpen("https://a.example/");
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.OpenAddress("https://c.example/")), "c.example");
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.OpenAddress("https://a.example/")),
+                            "nobody expected");
+    shell.ExpectOpen("https://a.example/");
+    EXPECT_NONFATAL_FAILURE(shell.Verify(), "never opened");
+    EXPECT_TRUE(log.Has("OpenAddress https://a.example/"));
 }
 
 TEST(EventLog, StepsOutOfTheirOrderAreTold) {

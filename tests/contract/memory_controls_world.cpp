@@ -66,6 +66,10 @@ class MemoryControlsWorld : public ControlsWorld {
     bool TakesInput(Form& form, int id) override { return InMemory(form).CanReach(id); }
     bool Seen(Form& form, int id) override { return InMemory(form).EffectivelyVisible(id); }
     bool Shown(Form& form) override { return InMemory(form).Shown(); }
+    bool ShownGrey(Form& form, int picture) override {
+        return !InMemory(form).EffectivelyEnabled(picture);
+    }
+    std::string Tooltip(Form& form, int id) override { return InMemory(form).Tooltip(id); }
     int TopTwips(Form& form, int id) override { return InMemory(form).TopTwips(id); }
 
   private:
@@ -85,5 +89,6 @@ INSTANTIATE_TEST_SUITE_P(Memory, ButtonsContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, TextAndListContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FocusContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FormContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, LooksContract, kMemory);
 
 }  // namespace zentar

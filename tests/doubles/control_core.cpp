@@ -8,6 +8,7 @@ ControlCore::ControlCore(ControlHost& host, const ControlRow& row, ControlCore* 
       row_(row),
       parent_(parent),
       text_(row.caption),
+      tooltip_(row.tooltip),
       enabled_((row.flags & StartsDisabled) == 0),
       visible_((row.flags & StartsHidden) == 0),
       topTwips_(row.rect.top * 15) {}
@@ -24,6 +25,7 @@ bool ControlCore::CanTakeFocus() const {
     switch (row_.kind) {
         case ControlKind::Label:
         case ControlKind::Frame:
+        case ControlKind::Picture:
         case ControlKind::TabPage:
         case ControlKind::Timer:
             return false;
@@ -65,6 +67,11 @@ void ControlCore::StoreTop(int twips) {
 void ControlCore::StoreText(const std::string& text) {
     Log("SetText(" + text + ")");
     text_ = text;
+}
+
+void ControlCore::StoreTooltip(const std::string& text) {
+    Log("SetTooltip(" + text + ")");
+    tooltip_ = text;
 }
 
 void ControlCore::TakeFocus() {

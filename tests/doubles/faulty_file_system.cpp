@@ -83,6 +83,13 @@ Status FaultyFileSystem::Copy(const std::string& from, const std::string& to, bo
     return begun.Ok() ? inner_.Copy(from, to, overwrite) : begun;
 }
 
+Result<bool> FaultyFileSystem::IsSameFile(const std::string& one, const std::string& other) {
+    const Status begun = Begin("IsSameFile " + one + " = " + other);
+    if (!begun.Ok())
+        return begun.Error();
+    return inner_.IsSameFile(one, other);
+}
+
 Status FaultyFileSystem::Delete(const std::string& path) {
     const Status begun = Begin("Delete " + path);
     if (!begun.Ok())

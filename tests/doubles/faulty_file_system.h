@@ -38,6 +38,7 @@ class FaultyFileSystem : public FileSystem {
     Status Rename(const std::string& from, const std::string& to) override;
     Status Replace(const std::string& from, const std::string& to) override;
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
+    Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;
     Status CreateFolder(const std::string& path) override;
     Result<std::uint64_t> FreeSpace(const std::string& root) override;

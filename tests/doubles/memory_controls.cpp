@@ -212,6 +212,8 @@ std::unique_ptr<ControlCore> MakeMemoryControl(ControlHost& host, const ControlR
             return std::make_unique<MemoryListBox>(host, row, parent);
         case ControlKind::Frame:
             return std::make_unique<MemoryFrame>(host, row, parent);
+        case ControlKind::Picture:
+            return std::make_unique<MemoryPicture>(host, row, parent);
         case ControlKind::Tab:
             return std::make_unique<MemoryTab>(host, row, parent);
         case ControlKind::TabPage:

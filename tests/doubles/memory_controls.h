@@ -51,6 +51,7 @@ class ControlCore {
     bool IsWithin(const ControlCore& ancestor) const;
     // Whether the Tab key stops here.
     virtual bool IsTabStop() const { return CanTakeFocus(); }
+    const std::string& Tooltip() const { return tooltip_; }
     const ControlEvents& Events() const { return events_; }
     void Raise(const char* name, std::function<void()> ControlEvents::*event);
 
@@ -61,6 +62,7 @@ class ControlCore {
     void StoreVisible(bool visible);
     void StoreTop(int twips);
     void StoreText(const std::string& text);
+    void StoreTooltip(const std::string& text);
     void TakeFocus();
     void Log(const std::string& call);
 
@@ -69,6 +71,7 @@ class ControlCore {
     ControlCore* parent_;
     ControlEvents events_;
     std::string text_;
+    std::string tooltip_;
     bool enabled_;
     bool visible_;
     int topTwips_;
@@ -90,10 +93,12 @@ class MemoryControl : public Interface, public ControlCore {
     void SetFocus() override { TakeFocus(); }
     bool HasFocus() const override { return host_.Focused() == this; }
     void SetTop(int twips) override { StoreTop(twips); }
+    void SetTooltip(const std::string& text) override { StoreTooltip(text); }
 };
 
 using MemoryLabel = MemoryControl<Label>;
 using MemoryFrame = MemoryControl<Frame>;
+using MemoryPicture = MemoryControl<Picture>;
 
 class MemoryButton : public MemoryControl<Button> {
   public:

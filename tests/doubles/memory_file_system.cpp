@@ -224,6 +224,14 @@ Status MemoryFileSystem::CopyInto(const Place& source, const Place& target) {
     return {};
 }
 
+Result<bool> MemoryFileSystem::IsSameFile(const std::string& one, const std::string& other) {
+    const Result<Node> first = FindFile(one);
+    const Result<Node> second = FindFile(other);
+    if (!first.Ok() || !second.Ok())
+        return first.Ok() ? second.Error() : first.Error();
+    return first.Value() == second.Value();
+}
+
 Status MemoryFileSystem::Delete(const std::string& path) {
     Log("Delete " + path);
     const Result<Place> place = Find(path);

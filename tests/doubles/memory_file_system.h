@@ -32,6 +32,7 @@ class MemoryFileSystem : public FileSystem {
     Status Rename(const std::string& from, const std::string& to) override;
     Status Replace(const std::string& from, const std::string& to) override;
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
+    Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;
     Status CreateFolder(const std::string& path) override;
     Result<std::uint64_t> FreeSpace(const std::string& root) override;
@@ -40,6 +41,8 @@ class MemoryFileSystem : public FileSystem {
     // fails the test.
     void AddDrive(const std::string& root, std::uint64_t capacity);
     void RemoveDrive(const std::string& root);
+    // A drive that stands for a folder.
+    void AddDriveFor(const std::string& root, const std::string& folder);
     void SetFreeSpace(const std::string& root, std::uint64_t bytes);
     void AddFolder(const std::string& path);
     // Replaces a file that is there. Without a moment it gets the clock's next.

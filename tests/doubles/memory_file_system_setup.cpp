@@ -25,6 +25,12 @@ void MemoryFileSystem::RemoveDrive(const std::string& root) {
         drives_.erase(FoldName(parts.Value().root));
 }
 
+void MemoryFileSystem::AddDriveFor(const std::string& root, const std::string& folder) {
+    const Result<PathParts> parts = SplitPath(root);
+    if (parts.Ok())
+        drives_[FoldName(parts.Value().root)] = MustFind(folder);
+}
+
 void MemoryFileSystem::SetFreeSpace(const std::string& root, std::uint64_t bytes) {
     DriveSpace& space = *MustFind(root)->space;
     space.capacity = space.used + bytes;

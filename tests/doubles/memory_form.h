@@ -59,6 +59,7 @@ class MemoryForm : public Form, private ControlHost {
     Control& AnyControl(int id) override { return Core(id).AsControl(); }
     Label& GetLabel(int id) override { return Get<MemoryLabel>(id); }
     Frame& GetFrame(int id) override { return Get<MemoryFrame>(id); }
+    Picture& GetPicture(int id) override { return Get<MemoryPicture>(id); }
     Button& GetButton(int id) override { return Get<MemoryButton>(id); }
     CheckBox& GetCheckBox(int id) override { return Get<MemoryCheckBox>(id); }
     OptionButton& GetOptionButton(int id) override { return Get<MemoryOptionButton>(id); }
@@ -92,7 +93,7 @@ class MemoryForm : public Form, private ControlHost {
 
     const FormTable& Table() const { return table_; }
     const ControlRow& Row(int id) { return Core(id).Row(); }
-    std::string Tooltip(int id) { return Core(id).Row().tooltip; }
+    std::string Tooltip(int id) { return Core(id).Tooltip(); }
     bool Shown() const { return shown_; }
     bool Closed() const { return closed_; }
     bool EffectivelyEnabled(int id) { return Core(id).EffectivelyEnabled(); }

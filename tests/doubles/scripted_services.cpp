@@ -17,6 +17,14 @@ std::string Describe(const Message& message) {
     return text + " button is the default)\n" + message.text;
 }
 
+std::string Describe(const TextQuestion& question) {
+    return "[" + question.title + "] (offers \"" + question.answer + "\")\n" + question.prompt;
+}
+
+std::string Describe(const ProgramStart& start) {
+    return "[" + start.folder + "] [" + start.executable + "] [" + start.arguments + "]";
+}
+
 using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
 
 // What a FileTime counts from, as a Unix time.
@@ -25,8 +33,7 @@ constexpr std::chrono::sys_days kEpoch{std::chrono::year{1601} / 1 / 1};
 }  // namespace
 
 std::optional<std::string> ScriptedShell::PickFolder(const std::string& title) {
-    if (log_ != nullptr)
-        log_->Add("PickFolder " + title);
+    Log("PickFolder " + title);
     if (picks_.empty()) {
         ADD_FAILURE() << "A folder dialog that nobody expected: " << title;
         return std::nullopt;
@@ -41,11 +48,57 @@ void ScriptedShell::ExpectPick(const std::string& title, std::optional<std::stri
     picks_.push_back({title, std::move(picked)});
 }
 
+Status ScriptedShell::StartProgram(const ProgramStart& start) {
+    Log("StartProgram " + start.folder + start.executable + start.arguments);
+    started_.push_back(start);
+    if (starts_.empty()) {
+        ADD_FAILURE() << "The start of a program that nobody expected: " << Describe(start);
+        return FileError::NotFound;
+    }
+    const ExpectedStart expected = starts_.front();
+    starts_.pop_front();
+    EXPECT_EQ(Describe(start), Describe(expected.start)) << "the program to be started";
+    return expected.result;
+}
+
+Status ScriptedShell::OpenAddress(const std::string& address) {
+    Log("OpenAddress " + address);
+    if (opens_.empty()) {
+        ADD_FAILURE() << "An address opened that nobody expected: " << address;
+        return FileError::NotFound;
+    }
+    const ExpectedOpen expected = opens_.front();
+    opens_.pop_front();
+    EXPECT_EQ(address, expected.address) << "the address to be opened";
+    return expected.result;
+}
+
+void ScriptedShell::ExpectStart(const ProgramStart& start, Status result) {
+    starts_.push_back({start, result});
+}
+
+void ScriptedShell::ExpectOpen(const std::string& address, Status result) {
+    opens_.push_back({address, result});
+}
+
 void ScriptedShell::Verify() {
     for (const ExpectedPick& pick : picks_) {
         ADD_FAILURE() << "A folder dialog that never came: " << pick.title;
     }
+    for (const ExpectedStart& start : starts_) {
+        ADD_FAILURE() << "The start of a program that never came: " << Describe(start.start);
+    }
+    for (const ExpectedOpen& open : opens_) {
+        ADD_FAILURE() << "An address that was never opened: " << open.address;
+    }
     picks_.clear();
+    starts_.clear();
+    opens_.clear();
+}
+
+void ScriptedShell::Log(const std::string& entry) {
+    if (log_ != nullptr)
+        log_->Add(entry);
 }
 
 Answer ScriptedWindows::Ask(const Message& message) {
@@ -65,6 +118,22 @@ Answer ScriptedWindows::Ask(const Message& message) {
         expected.meanwhile();
     return expected.answer;
 }
+
+std::optional<std::string> ScriptedWindows::AskText(const TextQuestion& question) {
+    Log("AskText " + question.title);
+    if (textBoxes_.empty()) {
+        ADD_FAILURE() << "An input box that nobody expected: " << Describe(question);
+        return std::nullopt;
+    }
+    const ExpectedTextBox expected = textBoxes_.front();
+    textBoxes_.pop_front();
+    EXPECT_EQ(Describe(question), Describe(expected.question)) << "the input box";
+    if (expected.meanwhile)
+        expected.meanwhile();
+    return expected.answer;
+}
+
+bool ScriptedWindows::HasWindowTitled(const std::string& title) { return titles_.contains(title); }
 
 void ScriptedWindows::Sound(Beep beep) {
     sounds_.push_back(beep);
@@ -96,11 +165,20 @@ void ScriptedWindows::Expect(const Message& message, Answer answer,
     boxes_.push_back({message, answer, std::move(meanwhile)});
 }
 
+void ScriptedWindows::ExpectText(const TextQuestion& question, std::optional<std::string> answer,
+                                 std::function<void()> meanwhile) {
+    textBoxes_.push_back({question, std::move(answer), std::move(meanwhile)});
+}
+
 void ScriptedWindows::Verify() {
     for (const ExpectedBox& box : boxes_) {
         ADD_FAILURE() << "A message box that never came: " << Describe(box.message);
     }
+    for (const ExpectedTextBox& box : textBoxes_) {
+        ADD_FAILURE() << "An input box that never came: " << Describe(box.question);
+    }
     boxes_.clear();
+    textBoxes_.clear();
 }
 
 void ScriptedWindows::Log(const std::string& entry) {

@@ -1,13 +1,14 @@
 // The shell, the windowing system and the locale, as a test wrote their part.
 //
-// A message box or a folder dialog that the test does not expect fails it, and so does one that it
-// expected and that never came.
+// A dialog, or the start of a program, that the test does not expect fails it, and so does one that
+// it expected and that never came.
 #pragma once
 
 #include <deque>
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -28,11 +29,20 @@ class ScriptedShell : public Shell {
     std::string ProgramFolder() override { return programFolder; }
     std::string WindowsFolder() override { return windowsFolder; }
     std::optional<std::string> PickFolder(const std::string& title) override;
+    Status StartProgram(const ProgramStart& start) override;
+    Status OpenAddress(const std::string& address) override;
 
     // The next folder dialog has this title; the user picks the folder, or cancels.
     void ExpectPick(const std::string& title, std::optional<std::string> picked);
-    // Fails the test when an expected dialog has not come; then expects none.
+    // The next program to be started is this one, and so it ends.
+    void ExpectStart(const ProgramStart& start, Status result = {});
+    // The next address to be opened is this one, and so it ends.
+    void ExpectOpen(const std::string& address, Status result = {});
+    // Fails the test when something expected has not come; then expects nothing.
     void Verify();
+
+    // Every program that was to be started, in this order, expected or not.
+    const std::vector<ProgramStart>& Started() const { return started_; }
 
     std::string programFolder = "C:\\Program Files\\Zentar";
     std::string windowsFolder = "C:\\Windows";
@@ -42,8 +52,21 @@ class ScriptedShell : public Shell {
         std::string title;
         std::optional<std::string> picked;
     };
+    struct ExpectedStart {
+        ProgramStart start;
+        Status result;
+    };
+    struct ExpectedOpen {
+        std::string address;
+        Status result;
+    };
+    void Log(const std::string& entry);
+
     EventLog* log_;
     std::deque<ExpectedPick> picks_;
+    std::deque<ExpectedStart> starts_;
+    std::deque<ExpectedOpen> opens_;
+    std::vector<ProgramStart> started_;
 };
 
 class ScriptedWindows : public WindowServices {
@@ -54,6 +77,8 @@ class ScriptedWindows : public WindowServices {
     ScriptedWindows& operator=(const ScriptedWindows&) = delete;
 
     Answer Ask(const Message& message) override;
+    std::optional<std::string> AskText(const TextQuestion& question) override;
+    bool HasWindowTitled(const std::string& title) override;
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
     void SetPointer(Pointer pointer) override;
@@ -62,11 +87,17 @@ class ScriptedWindows : public WindowServices {
     // The next box is this one, whole, and the user answers so. `meanwhile` runs while it is open.
     void Expect(const Message& message, Answer answer, std::function<void()> meanwhile = {});
     void Expect(const Message& message) { Expect(message, Answer::Ok); }
+    // The next input box is this one, whole; the user answers so, or cancels.
+    void ExpectText(const TextQuestion& question, std::optional<std::string> answer,
+                    std::function<void()> meanwhile = {});
     // Fails the test when an expected box has not come; then expects none.
     void Verify();
 
     // 0x8000: the key is down; 0x0001: it was pressed since the last query.
     void SetKeyState(PollKey key, std::uint16_t state) { keys_[key] = state; }
+
+    // The titles of the windows that other programs show.
+    void SetWindowTitles(std::set<std::string> titles) { titles_ = std::move(titles); }
 
     // What happens inside each PumpPending, for instance an event that the user caused meanwhile.
     void SetDuringPump(std::function<void()> duringPump) { duringPump_ = std::move(duringPump); }
@@ -83,10 +114,17 @@ class ScriptedWindows : public WindowServices {
         Answer answer = Answer::Ok;
         std::function<void()> meanwhile;
     };
+    struct ExpectedTextBox {
+        TextQuestion question;
+        std::optional<std::string> answer;
+        std::function<void()> meanwhile;
+    };
     void Log(const std::string& entry);
 
     EventLog* log_;
     std::deque<ExpectedBox> boxes_;
+    std::deque<ExpectedTextBox> textBoxes_;
+    std::set<std::string> titles_;
     std::vector<Message> shown_;
     std::vector<Beep> sounds_;
     std::vector<Pointer> pointers_;

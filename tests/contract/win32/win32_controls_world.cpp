@@ -3,9 +3,11 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <chrono>
 #include <map>
 
+#include "platform/win32/win32_handle.h"
 #include "tests/contract/controls_contract.h"
 #include "tests/contract/win32/the_platform.h"
 #include "tests/contract/win32/win32_user.h"
@@ -23,6 +25,32 @@ constexpr DWORD kQuietMilliseconds = 60;
 WPARAM VirtualKeyOf(Key key) {
     constexpr WPARAM kKeys[] = {VK_F1, VK_F2, VK_F5, VK_DELETE, VK_BACK, VK_RETURN};
     return kKeys[static_cast<std::size_t>(key)];
+}
+
+// How far a colour is from grey.
+int Colourfulness(COLORREF colour) {
+    const auto [least, most] =
+        std::minmax({GetRValue(colour), GetGValue(colour), GetBValue(colour)});
+    return most - least;
+}
+
+// Whether what the window shows on its surface is all as grey as that, give or take the rounding.
+bool IsGrey(HWND window) {
+    const COLORREF surface = GetSysColor(COLOR_BTNFACE);
+    RECT client{};
+    GetClientRect(window, &client);
+    const WindowContext context(window);
+    int most = 0;
+    bool empty = true;
+    for (int y = 0; y < client.bottom; ++y) {
+        for (int x = 0; x < client.right; ++x) {
+            const COLORREF pixel = GetPixel(context.Get(), x, y);
+            most = std::max(most, Colourfulness(pixel));
+            empty = empty && pixel == surface;
+        }
+    }
+    EXPECT_FALSE(empty) << "the picture is nowhere to be seen";
+    return most <= Colourfulness(surface) + 2;
 }
 
 class Win32ControlsWorld : public ControlsWorld {
@@ -123,6 +151,16 @@ class Win32ControlsWorld : public ControlsWorld {
     bool Seen(Form& form, int id) override { return IsWindowVisible(Of(form, id)) != FALSE; }
     bool Shown(Form& form) override { return IsWindowVisible(Top(form)) != FALSE; }
 
+    bool ShownGrey(Form& form, int picture) override {
+        Settle();
+        return IsGrey(Of(form, picture));
+    }
+    std::string Tooltip(Form& form, int id) override {
+        PostMove(Of(form, id), {1, 1});
+        Settle();
+        return TooltipOf(Top(form), Of(form, id));
+    }
+
     int TopTwips(Form& form, int id) override {
         const HWND control = Of(form, id);
         RECT rect{};
@@ -161,5 +199,6 @@ INSTANTIATE_TEST_SUITE_P(Win32, ButtonsContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, TextAndListContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FocusContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FormContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, LooksContract, kWin32);
 
 }  // namespace zentar

@@ -1,9 +1,9 @@
-// What only a user of the real Windows sees of the services: message boxes, keys, folders.
+// What only a user of the real Windows sees of the windowing services: message boxes, keys, titles.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
-#include "platform/shell.h"
+#include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_text.h"
 #include "platform/window_services.h"
 #include "tests/contract/win32/the_platform.h"
@@ -66,6 +66,7 @@ TEST(Win32WindowServices, AMessageIsAnsweredWithOk) {
 
 TEST(Win32WindowServices, AKeyThatIsHeldWasPressedOnlyOnce) {
     static_cast<void>(Windows().KeyState(PollKey::Shift));
+    static_cast<void>(Windows().KeyState(PollKey::Control));
     EXPECT_EQ(Windows().KeyState(PollKey::Shift), 0);
     keybd_event(VK_SHIFT, 0, 0, 0);
     EXPECT_EQ(Windows().KeyState(PollKey::Shift), 0x8001);
@@ -75,12 +76,25 @@ TEST(Win32WindowServices, AKeyThatIsHeldWasPressedOnlyOnce) {
     EXPECT_EQ(Windows().KeyState(PollKey::Shift) & 0x8000, 0);
 }
 
-TEST(Win32Shell, TheSystemsFoldersAreThereWithoutABackslash) {
-    Shell& shell = ThePlatform().Services().shell;
-    for (const std::string& folder : {shell.ProgramFolder(), shell.WindowsFolder()}) {
-        EXPECT_TRUE(ThePlatform().Services().files.Info(folder).ValueOr({}).isFolder) << folder;
-        EXPECT_EQ(folder.ends_with('\\'), folder.size() == 3) << folder;
-    }
+TEST(Win32WindowServices, AWindowIsFoundByExactlyItsTitle) {
+    const UniqueWindow window(CreateWindowExW(0, L"STATIC", L"Zentar: тест", WS_POPUP, 0, 0, 10, 10,
+                                              nullptr, nullptr, nullptr, nullptr));
+    EXPECT_TRUE(Windows().HasWindowTitled("Zentar: тест"));
+    EXPECT_FALSE(Windows().HasWindowTitled("Zentar: тес"));
+    EXPECT_FALSE(Windows().HasWindowTitled("Zentar: тест "));
+    EXPECT_FALSE(Windows().HasWindowTitled("zentar: тест"));
+    SetWindowTextW(window.Get(), L"Zentar");
+    EXPECT_FALSE(Windows().HasWindowTitled("Zentar: тест"));
+    EXPECT_TRUE(Windows().HasWindowTitled("Zentar"));
+}
+
+TEST(Win32WindowServices, AWindowInsideAnotherOneIsNotFound) {
+    const UniqueWindow top(CreateWindowExW(0, L"STATIC", L"Zentar outside", WS_POPUP, 0, 0, 10, 10,
+                                           nullptr, nullptr, nullptr, nullptr));
+    CreateWindowExW(0, L"STATIC", L"Zentar inside", WS_CHILD, 0, 0, 10, 10, top.Get(), nullptr,
+                    nullptr, nullptr);
+    EXPECT_TRUE(Windows().HasWindowTitled("Zentar outside"));
+    EXPECT_FALSE(Windows().HasWindowTitled("Zentar inside"));
 }
 
 }  // namespace zentar

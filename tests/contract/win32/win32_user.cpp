@@ -1,5 +1,8 @@
 #include "tests/contract/win32/win32_user.h"
 
+#include <commctrl.h>
+
+#include <array>
 #include <string>
 #include <utility>
 
@@ -33,6 +36,21 @@ BOOL CALLBACK CompareTitle(HWND window, LPARAM search) {
 BOOL CALLBACK CompareId(HWND window, LPARAM search) {
     auto& wanted = *reinterpret_cast<Search*>(search);
     if (GetDlgCtrlID(window) != wanted.id)
+        return TRUE;
+    wanted.found = window;
+    return FALSE;
+}
+
+struct TipSearch {
+    HWND owner;
+    HWND found;
+};
+
+BOOL CALLBACK FindTipWindow(HWND window, LPARAM search) {
+    auto& wanted = *reinterpret_cast<TipSearch*>(search);
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    if (GetWindow(window, GW_OWNER) != wanted.owner || name.data() != std::wstring(TOOLTIPS_CLASSW))
         return TRUE;
     wanted.found = window;
     return FALSE;
@@ -77,6 +95,20 @@ HWND FindControlWindow(HWND top, int id) {
     return search.found;
 }
 
+std::string TooltipOf(HWND top, HWND control) {
+    TipSearch search{top, nullptr};
+    EnumThreadWindows(GetCurrentThreadId(), FindTipWindow, reinterpret_cast<LPARAM>(&search));
+    EXPECT_NE(search.found, nullptr) << "no tooltips at all";
+    std::array<wchar_t, 1024> text{};
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = top;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = text.data();
+    SendMessageW(search.found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
+    return Narrow(text.data());
+}
+
 bool MouseReaches(HWND window) {
     if (!IsWindowVisible(window))
         return false;
@@ -86,6 +118,8 @@ bool MouseReaches(HWND window) {
     }
     return true;
 }
+
+void PostMove(HWND window, POINT at) { Post(window, WM_MOUSEMOVE, 0, At(at)); }
 
 void PostClick(HWND window, POINT at) {
     EXPECT_TRUE(MouseReaches(window)) << "a click cannot reach control " << GetDlgCtrlID(window);

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace zentar {
@@ -13,10 +14,14 @@ HWND FindTopWindow(std::string_view title);
 // The control of this number, however deep in the window.
 HWND FindControlWindow(HWND top, int id);
 
+// The tooltip of a control; empty when it has none. There is none at all before the mouse moved.
+std::string TooltipOf(HWND top, HWND control);
+
 // Whether the mouse would reach the window: all that it stands in is visible and enabled.
 bool MouseReaches(HWND window);
 
 // Each posts what the hardware would cause; the message loop handles it.
+void PostMove(HWND window, POINT at);
 void PostClick(HWND window, POINT at);
 void PostDoubleClick(HWND window, POINT at);
 // Moves the real pointer there as well.

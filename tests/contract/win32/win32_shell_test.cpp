@@ -1,0 +1,166 @@
+// What only the real Windows shows of the shell: folders, and programs that start.
+#include <windows.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sstream>
+#include <string>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "platform/shell.h"
+#include "platform/win32/win32_text.h"
+#include "platform/window_services.h"
+#include "tests/contract/file_system_contract.h"
+#include "tests/contract/win32/the_platform.h"
+
+namespace zentar {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A program that never gets so far fails the test after this time.
+constexpr auto kPatience = std::chrono::seconds(30);
+
+bool ComesTrue(const std::function<bool()>& condition) {
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return true;
+}
+
+Shell& TheShell() { return ThePlatform().Services().shell; }
+
+std::string CurrentFolder() { return Narrow(fs::current_path().wstring()); }
+
+// Folders with games that note how they were started. While this stands, another game of the same
+// name waits where Windows looks for programs: in the current folder, and on the path.
+class Win32ProgramStart : public testing::Test {
+  protected:
+    Win32ProgramStart() {
+        AddGame(Folder("current"), "glquake.exe");
+        AddGame(Folder("on the path"), "glquake.exe");
+        fs::current_path(Folder("current"));
+        SetEnvironmentVariableW(L"PATH", (Folder("on the path").wstring() + L";" + path_).c_str());
+    }
+    ~Win32ProgramStart() override {
+        SetEnvironmentVariableW(L"PATH", path_.c_str());
+        fs::current_path(currentFolder_);
+        // A program that just ended may still hold its file.
+        EXPECT_TRUE(ComesTrue([this] {
+            std::error_code error;
+            fs::remove_all(root_, error);
+            return !error;
+        }));
+    }
+    Win32ProgramStart(const Win32ProgramStart&) = delete;
+    Win32ProgramStart& operator=(const Win32ProgramStart&) = delete;
+
+    fs::path Folder(const std::string& name) {
+        const fs::path folder = root_ / Widen(name);
+        fs::create_directories(folder);
+        return folder;
+    }
+
+    // The game shows its window for so many seconds.
+    static void AddGame(const fs::path& folder, const std::string& name, int seconds = 0) {
+        const fs::path standin = fs::path(Widen(TheShell().ProgramFolder())) / "standin_game.exe";
+        fs::copy_file(standin, folder / name);
+        std::ofstream(folder / "standin.seconds") << seconds;
+    }
+
+    static ProgramStart StartOf(const fs::path& folder, const std::string& executable,
+                                const std::string& arguments) {
+        return {Narrow(folder.wstring()) + "\\", executable, arguments};
+    }
+
+    // What the game in the folder noted, once it has.
+    static std::string LogOf(const fs::path& folder) {
+        std::string log;
+        EXPECT_TRUE(ComesTrue([&] {
+            std::stringstream text;
+            text << std::ifstream(folder / "standin.log", std::ios::binary).rdbuf();
+            log = text.str();
+            return log.ends_with("\r\n\r\n");
+        })) << "nothing started in "
+            << folder;
+        return log;
+    }
+
+    fs::path root_ =
+        fs::temp_directory_path() / ("zentar-start-" + std::to_string(GetCurrentProcessId()));
+
+  private:
+    fs::path currentFolder_ = fs::current_path();
+    std::wstring path_ = _wgetenv(L"PATH");
+};
+
+}  // namespace
+
+TEST(Win32Shell, TheSystemsFoldersAreThereWithoutABackslash) {
+    for (const std::string& folder : {TheShell().ProgramFolder(), TheShell().WindowsFolder()}) {
+        EXPECT_TRUE(ThePlatform().Services().files.Info(folder).ValueOr({}).isFolder) << folder;
+        EXPECT_EQ(folder.ends_with('\\'), folder.size() == 3) << folder;
+    }
+}
+
+TEST(Win32Shell, OnlyWebAddressesAreOpened) {
+    for (const char* text :
+         {"", "C:\\Windows\\notepad.exe", "notepad.exe", "file:///C:/Windows/notepad.exe",
+          "\\\\server\\share\\a.exe", "mailto:a@b.example", "http:/a", "https:a", " http://a",
+          "shell:startup", "ftp://a.example/"}) {
+        EXPECT_TRUE(FailedWith(TheShell().OpenAddress(text), FileError::BadName)) << text;
+    }
+}
+
+TEST_F(Win32ProgramStart, TheGameOfTheFolderStartsThereMinimisedWithItsCommandLineAsItIs) {
+    const fs::path game = Folder("Quake & дуэль");
+    AddGame(game, "glquake.exe");
+    const std::string before = CurrentFolder();
+    const std::string arguments = " -game x  +playdemo \"a & дуэль.dem\" %PATH% \\\"";
+    EXPECT_TRUE(Succeeded(TheShell().StartProgram(StartOf(game, "glquake.exe", arguments))));
+    EXPECT_EQ(LogOf(game),
+              "glquake.exe" + arguments + "\r\n" + Narrow(game.wstring()) + "\r\n2\r\n\r\n");
+    EXPECT_EQ(CurrentFolder(), before);
+    EXPECT_FALSE(fs::exists(Folder("current") / "standin.log"));
+    EXPECT_FALSE(fs::exists(Folder("on the path") / "standin.log"));
+}
+
+TEST_F(Win32ProgramStart, AMissingGameIsNotLookedForElsewhere) {
+    const Status missing =
+        TheShell().StartProgram(StartOf(Folder("empty"), "glquake.exe", " +map a"));
+    EXPECT_TRUE(FailedWith(missing, FileError::NotFound));
+    const Status noFolder = TheShell().StartProgram(StartOf(root_ / "none", "glquake.exe", ""));
+    EXPECT_TRUE(FailedWith(noFolder, FileError::NotFound));
+    const Status relative = TheShell().StartProgram({"", "glquake.exe", ""});
+    EXPECT_TRUE(FailedWith(relative, FileError::BadName));
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_FALSE(fs::exists(Folder("current") / "standin.log"));
+    EXPECT_FALSE(fs::exists(Folder("on the path") / "standin.log"));
+}
+
+TEST_F(Win32ProgramStart, AFileThatIsNoProgramDoesNotStart) {
+    const fs::path folder = Folder("text");
+    std::ofstream(folder / "glquake.exe") << "This is no program.";
+    EXPECT_FALSE(TheShell().StartProgram(StartOf(folder, "glquake.exe", "")).Ok());
+    fs::create_directory(folder / "quake2.exe");
+    EXPECT_FALSE(TheShell().StartProgram(StartOf(folder, "quake2.exe", "")).Ok());
+}
+
+TEST_F(Win32ProgramStart, TheWindowOfARunningGameIsFoundByItsTitle) {
+    WindowServices& windows = ThePlatform().Services().windows;
+    const fs::path game = Folder("Quake 3");
+    AddGame(game, "quake3.exe", 1);
+    EXPECT_FALSE(windows.HasWindowTitled("Quake 3: Arena"));
+    EXPECT_TRUE(Succeeded(TheShell().StartProgram(StartOf(game, "quake3.exe", ""))));
+    EXPECT_TRUE(ComesTrue([&] { return windows.HasWindowTitled("Quake 3: Arena"); }));
+    EXPECT_TRUE(ComesTrue([&] { return !windows.HasWindowTitled("Quake 3: Arena"); }));
+}
+
+}  // namespace zentar
