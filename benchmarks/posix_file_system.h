@@ -27,6 +27,9 @@ class PosixFileSystem : public FileSystem {
                 bool /*overwrite*/) override {
         return FileError::AccessDenied;
     }
+    Result<bool> IsSameFile(const std::string& /*one*/, const std::string& /*other*/) override {
+        return FileError::AccessDenied;
+    }
     Status Delete(const std::string& /*path*/) override { return FileError::AccessDenied; }
     Status CreateFolder(const std::string& /*path*/) override { return FileError::AccessDenied; }
     Result<std::uint64_t> FreeSpace(const std::string& /*root*/) override {

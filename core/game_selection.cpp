@@ -70,6 +70,7 @@ void GameSelection::RefreshGame() {
         ShowGameAsSelected(*info);
         SetContext(*info, *state_.Game());
         followers_.FillDemoFilterList(*info);
+        followers_.ArrangeDemoInstaller(*info);
         followers_.ArrangeDemoProperties(*info);
     }
     platform_.windows.PumpPending();
@@ -103,6 +104,7 @@ void GameSelection::SetContext(const GameInfo& info, const GameState& game) {
     current.DemoExtension = info.demoExtension;
     current.ScreenshotFolder = game.BaseModPath + std::string(info.screenshotFolder);
     current.DemoFolder = game.BaseModPath + std::string(info.demoFolder);
+    current.SelectedMod = info.baseMod;
 }
 
 std::vector<std::string> GameSelection::FindMods() {

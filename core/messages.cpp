@@ -58,6 +58,14 @@ Message CannotExitYet() {
             MessageIcon::Critical};
 }
 
+Message IllegalCharacters() {
+    return {"Error",
+            Lines({"Can't rename due to illegal characters.", "",
+                   "Filenames cannot have these characters",
+                   R"(in them:   "   \   /   |   <   >   :   ?   *)"}),
+            MessageIcon::Exclamation};
+}
+
 std::string LocateRemoteFolder() { return "Please specify a folder to be the Remote Folder:"; }
 
 Message SwitchingToExpertMode() {

@@ -20,6 +20,9 @@ Message FirstRunWelcome();
 Message AboutZentar();
 Message CannotExitYet();
 
+// A new file name holds one of the nine characters that none may hold.
+Message IllegalCharacters();
+
 // Preferences.
 std::string LocateRemoteFolder();
 Message SwitchingToExpertMode();

@@ -1,5 +1,7 @@
 #include "core/program_life.h"
 
+#include <utility>
+
 #include "core/game_folders.h"
 #include "core/messages.h"
 #include "core/text.h"
@@ -9,13 +11,15 @@
 namespace zentar {
 
 ProgramLife::ProgramLife(ProgramState& state, const Platform& platform, GameSelection& games,
-                         const SettingsControls& settings, TabControl& SSTab1, Timer& tmrQ3Game)
+                         const SettingsControls& settings, TabControl& SSTab1, Timer& tmrQ3Game,
+                         std::function<void()> restoreHiddenPaks)
     : state_(state),
       platform_(platform),
       games_(games),
       settings_(settings),
       SSTab1_(SSTab1),
-      tmrQ3Game_(tmrQ3Game) {}
+      tmrQ3Game_(tmrQ3Game),
+      restoreHiddenPaks_(std::move(restoreHiddenPaks)) {}
 
 void ProgramLife::Form2_Load() {
     state_.settings.Virgin = 1;
@@ -68,11 +72,15 @@ bool ProgramLife::Form2_QueryUnload() {
         return false;
     }
     SaveSettingsUnlessUnread();
+    restoreHiddenPaks_();
     RemoveTempFiles();
     return true;
 }
 
-void ProgramLife::Form2_SessionEnding() { SaveSettingsUnlessUnread(); }
+void ProgramLife::Form2_SessionEnding() {
+    SaveSettingsUnlessUnread();
+    restoreHiddenPaks_();
+}
 
 void ProgramLife::SaveSettingsUnlessUnread() {
     // A settings file that could not be read still holds what the user had set.

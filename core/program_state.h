@@ -30,7 +30,7 @@ struct CurrentGame {
     std::string ScreenshotFolder;
     std::string DemoFolder;     // with a trailing backslash; empty before the first refresh
     std::string DemoExtension;  // ".dem", ".dm2" or ".dm3"
-    std::string SelectedMod;    // last clicked in the mod list
+    std::string SelectedMod;    // whose demos and screenshots these are
 };
 
 // The network generation that wrote a Quake 3 demo, as the number of its game version.

@@ -112,6 +112,19 @@ void SortAlphabetically(std::vector<std::string>& texts) {
     }
 }
 
+std::string TrimBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return std::string(text.substr(first, text.find_last_not_of(' ') + 1 - first));
+}
+
+bool EndsWithAnyCase(std::string_view text, std::string_view lowerEnd) {
+    return text.size() >= lowerEnd.size() &&
+           LowerAscii(text.substr(text.size() - lowerEnd.size())) == lowerEnd;
+}
+
 std::string WithBackslash(std::string path) {
     if (path.empty() || path.back() != '\\') {
         path += '\\';

@@ -20,6 +20,12 @@ std::string LowerAscii(std::string_view bytes);
 // fixed order among themselves.
 void SortAlphabetically(std::vector<std::string>& texts);
 
+// Without the blanks at its beginning and end.
+std::string TrimBlanks(std::string_view text);
+
+// Whether a text ends so, whatever the case of its ASCII letters; `lowerEnd` is in lower case.
+bool EndsWithAnyCase(std::string_view text, std::string_view lowerEnd);
+
 // `path` with a backslash at its end.
 std::string WithBackslash(std::string path);
 

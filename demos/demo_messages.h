@@ -1,6 +1,8 @@
-// The messages of the Demos tab, whole.
+// The messages about demos, whole.
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "platform/result.h"
@@ -12,5 +14,33 @@ namespace zentar::messages {
 Message OfferNotADemoRename(std::string_view game);
 // The user wanted that rename, and it failed.
 Message NotADemoRenameFailed(FileError why);
+
+// Deleting.
+Message ReallyDeleteDemo();
+Message ReallyDeleteAllListedDemos();
+Message DeleteReadOnlyDemo();
+Message DemoNotDeleted();
+Message DemosNotDeleted(std::uint64_t kept, std::uint64_t listed);
+
+// Renaming.
+TextQuestion EnterNewDemoName(const std::string& name);
+Message DemoNotRenamed(FileError why);
+
+// The file of the selected demo is no longer there, or cannot be read.
+Message DemoIsGone();
+Message DemoIsUnreadable();
+
+// Playing. `version` is "1.17" or "1.27h".
+Message ReallyPlayDemo(std::string_view game);
+Message OldGameNeeded(std::string_view version, std::string_view executable);
+Message PakNotHidden(std::string_view pak);
+Message GameNotStarted(std::string_view game, std::string_view executable);
+
+// Searching for a map.
+Message BrowserNotOpened();
+
+// Installing: the title of the folder picker, and what has come of it.
+std::string LocateDemosToInstall(std::string_view game);
+Message DemosInstalled(std::string_view game, std::uint64_t installed, std::uint64_t found);
 
 }  // namespace zentar::messages

@@ -10,11 +10,6 @@ namespace {
 constexpr std::string_view kMarked48 = " .dm3";
 constexpr std::string_view kMarked66 = "  .dm3";
 
-bool EndsWithAnyCase(std::string_view name, std::string_view lowerEnd) {
-    return name.size() >= lowerEnd.size() &&
-           LowerAscii(name.substr(name.size() - lowerEnd.size())) == lowerEnd;
-}
-
 std::string WithOtherEnd(std::string_view name, std::size_t drop, std::string_view end) {
     return std::string(name.substr(0, name.size() - drop)).append(end);
 }
@@ -52,10 +47,17 @@ std::string_view RealExtension(std::string_view entry, std::string_view extensio
     return entry.ends_with(' ') ? kDm48 : kDm3;
 }
 
+std::string_view EntryMarkers(std::string_view realExtension) {
+    if (realExtension == kDm66) {
+        return "  ";
+    }
+    return realExtension == kDm48 ? " " : "";
+}
+
 std::string RealPath(std::string_view folder, std::string_view entry, std::string_view extension) {
     const std::string_view real = RealExtension(entry, extension);
-    const std::size_t markers = real == kDm66 ? 2 : real == kDm48 ? 1 : 0;
-    return std::string(folder).append(entry.substr(0, entry.size() - markers)).append(real);
+    entry.remove_suffix(EntryMarkers(real).size());
+    return std::string(folder).append(entry).append(real);
 }
 
 }  // namespace zentar

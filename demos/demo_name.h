@@ -24,4 +24,7 @@ std::string RealPath(std::string_view folder, std::string_view entry, std::strin
 // The extension of the file behind an entry.
 std::string_view RealExtension(std::string_view entry, std::string_view extension);
 
+// The blanks at the end of the entries of files with that extension.
+std::string_view EntryMarkers(std::string_view realExtension);
+
 }  // namespace zentar

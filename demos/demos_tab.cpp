@@ -13,6 +13,10 @@ DemosTab::DemosTab(ProgramState& state, const Platform& platform, const DemosTab
       platform_(platform),
       controls_(controls),
       properties_(controls_, platform.locale),
+      files_(state, platform, *this),
+      transfer_(state, platform, *this),
+      playback_(state, platform, *this, controls.tmrQ3Game),
+      mapSearch_(platform, *this),
       showPopup_(std::move(showPopup)),
       startupFinished_(std::move(startupFinished)) {
     BindEvents();
@@ -21,6 +25,7 @@ DemosTab::DemosTab(ProgramState& state, const Platform& platform, const DemosTab
 void DemosTab::BindEvents() {
     ControlEvents list;
     list.click = [this] { lstDemos_Click(); };
+    list.doubleClick = AsCommand([this] { PlayDemo(); });
     list.menuRequested = [this] { lstDemos_MouseDown(); };
     list.keyDown = [this](Key key) { return lstDemos_KeyDown(key); };
     controls_.lstDemos.SetEvents(std::move(list));
@@ -43,17 +48,59 @@ void DemosTab::BindEvents() {
     phrases.keyDown = [this](Key key) { return lstDemoFilter_KeyDown(key); };
     controls_.lstDemoFilter.SetEvents(std::move(phrases));
 
+    BindMenu();
+}
+
+void DemosTab::BindMenu() {
+    controls_.mnuDemosPlay.SetClick(AsCommand([this] { PlayDemo(); }));
+    controls_.mnuDemosDelete.SetClick(AsCommand([this] { files_.DeleteSelected(); }));
+    controls_.mnuDemosRename.SetClick(AsCommand([this] { files_.RenameSelected(); }));
+    controls_.mnuDemosRenameMap.SetClick(AsCommand([this] { files_.RenameSelectedWithMap(); }));
+    controls_.mnuDemosCopy.SetClick(AsCommand([this] { transfer_.CopySelected(); }));
+    controls_.mnuDemosMove.SetClick(AsCommand([this] { transfer_.MoveSelected(); }));
+    controls_.mnuDemosDeleteAll.SetClick(AsCommand([this] { files_.DeleteAllListed(); }));
+    controls_.mnuDemosSearchAll.SetClick([this] { mapSearch_.mnuDemosSearchAll_Click(); });
+    controls_.mnuDemosSearchDesc.SetClick([this] { mapSearch_.mnuDemosSearchDesc_Click(); });
+    controls_.mnuDemosSearchMap.SetClick([this] { mapSearch_.mnuDemosSearchMap_Click(); });
     controls_.mnuDemosRefresh.SetClick([this] { mnuDemosRefresh_Click(); });
 }
 
-bool DemosTab::lstDemos_KeyDown(Key key) {
-    if (key == Key::F5) {
-        RefreshDemoList();
-        return true;
+void DemosTab::Command(const std::function<void()>& command) {
+    if (commandRuns_) {
+        return;
     }
-    if (key == Key::Enter && demo_.NotADemo) {
-        OfferNotADemoRename();
-        return true;
+    struct Running {
+        explicit Running(bool& running) : runs(running) { runs = true; }
+        ~Running() { runs = false; }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+        bool& runs;
+    };
+    const Running running(commandRuns_);
+    command();
+}
+
+std::function<void()> DemosTab::AsCommand(std::function<void()> command) {
+    return [this, command = std::move(command)] { Command(command); };
+}
+
+bool DemosTab::lstDemos_KeyDown(Key key) {
+    switch (key) {
+        case Key::F2:
+            Command([this] { files_.RenameSelected(); });
+            return true;
+        case Key::F5:
+            RefreshDemoList();
+            return true;
+        case Key::Delete:
+        case Key::Backspace:
+            Command([this] { files_.DeleteSelected(); });
+            return true;
+        case Key::Enter:
+            Command([this] { PlayDemo(); });
+            return true;
+        case Key::F1:
+            break;
     }
     return false;
 }
@@ -63,6 +110,7 @@ void DemosTab::lstDemos_MouseDown() {
     platform_.windows.PumpPending();
     controls_.lstDemos.SelectAtPointer();
     platform_.windows.PumpPending();
+    ReadNow();
     DecideMenu();
     showPopup_();
 }
@@ -78,6 +126,15 @@ void DemosTab::DecideMenu() {
     controls_.mnuDemosMove.SetEnabled(menu.fileCommands);
     controls_.mnuDemosRenameMap.SetEnabled(menu.renameWithMap);
     controls_.mnuDemosSearch.SetEnabled(menu.search);
+}
+
+void DemosTab::PlayDemo() {
+    const bool offers = unread_;
+    ReadNow();
+    // A file that turned out to be no demo just now has been offered for its rename already.
+    if (!offers || !demo_.NotADemo) {
+        playback_.PlayDemo();
+    }
 }
 
 void DemosTab::mnuDemosRefresh_Click() { RefreshDemoList(); }

@@ -9,19 +9,25 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/game_info.h"
 #include "core/program_state.h"
+#include "demos/demo_file_operations.h"
 #include "demos/demo_header.h"
 #include "demos/demo_info.h"
 #include "demos/demo_list.h"
+#include "demos/demo_list_view.h"
+#include "demos/demo_playback.h"
 #include "demos/demo_properties.h"
+#include "demos/demo_transfer.h"
 #include "demos/demos_tab_controls.h"
+#include "demos/map_search.h"
 #include "platform/platform.h"
 
 namespace zentar {
 
-class DemosTab {
+class DemosTab : public DemoListView {
   public:
     // Binds the event procedures. `showPopup` opens the popup menu at the pointer;
     // `startupFinished` says whether the main window has been activated.
@@ -30,20 +36,19 @@ class DemosTab {
     DemosTab(const DemosTab&) = delete;
     DemosTab& operator=(const DemosTab&) = delete;
 
-    // Lists the demos of the current mod anew. Nothing is selected afterwards, unless a reselection
-    // is pending.
-    void RefreshDemoList();
-    // The next rebuild of the list selects this entry, should it then be there.
-    void SetPendingReselection(const std::string& entry);
+    const DemoInfo& SelectedDemo() const override { return demo_; }
+    std::vector<std::string> ListedDemos() const override;
+    void RefreshDemoList() override;
+    void SetPendingReselection(const std::string& entry) override;
+    void OfferNotADemoRename() override;
     void ResetDemoProperties();
-    // Asks whether the selected file, which is no demo, should be renamed out of the list.
-    void OfferNotADemoRename();
+
+    // Puts back the game files that were hidden for an old demo.
+    void RestoreHiddenPaks() { playback_.RestoreHiddenPaks(); }
 
     // For the game refresh.
     void FillPhraseList(const GameInfo& game);
     void ArrangeProperties(bool quake3);
-
-    const DemoInfo& SelectedDemo() const { return demo_; }
 
     void lstDemos_Click();
     bool lstDemos_KeyDown(Key key);
@@ -63,6 +68,11 @@ class DemosTab {
     };
 
     void BindEvents();
+    void BindMenu();
+    // Runs a command on demos, unless another one is under way: while that lets waiting messages
+    // run, the user may ask for more.
+    void Command(const std::function<void()>& command);
+    std::function<void()> AsCommand(std::function<void()> command);
 
     std::uint64_t ScanFolder();
     DemoFilter Filter() const;
@@ -72,6 +82,9 @@ class DemosTab {
     bool ForceShowAll();
     void ShowSelectedFile();
     void ReadSelectedDemo();
+    void ReadNow();
+    bool ReadHeader();
+    void PlayDemo();
     void TakeHeader(DemoHeader header);
     void DecideMenu();
     void UseChosenPhrase();
@@ -80,11 +93,17 @@ class DemosTab {
     Platform platform_;
     DemosTabControls controls_;
     DemoProperties properties_;
+    DemoFileOperations files_;
+    DemoTransfer transfer_;
+    DemoPlayback playback_;
+    MapSearch mapSearch_;
     std::function<void()> showPopup_;
     std::function<bool()> startupFinished_;
 
     DemoInfo demo_;
+    bool unread_ = false;  // it was selected, and its content is still to be read
     PendingReselection pending_;
+    bool commandRuns_ = false;
     // Counted up with every selection and reset, and with every rebuild: how a procedure notices
     // that another one ran inside it.
     std::uint64_t selections_ = 0;

@@ -40,6 +40,8 @@ struct DemosTabControls {
     MenuEntry& mnuDemosSearchDesc;
     MenuEntry& mnuDemosSearchMap;
     MenuEntry& mnuDemosRefresh;
+
+    Timer& tmrQ3Game;
 };
 
 }  // namespace zentar

@@ -52,6 +52,15 @@ void DemosTab::ShowCount(std::uint64_t total) {
     controls_.labNumDemos.SetEnabled(listed > 0);
 }
 
+std::vector<std::string> DemosTab::ListedDemos() const {
+    std::vector<std::string> entries;
+    entries.reserve(static_cast<std::size_t>(controls_.lstDemos.Count()));
+    for (int index = 0; index < controls_.lstDemos.Count(); ++index) {
+        entries.push_back(controls_.lstDemos.Item(index));
+    }
+    return entries;
+}
+
 void DemosTab::SetPendingReselection(const std::string& entry) {
     pending_ = {.folder = state_.current.DemoFolder, .entry = entry};
 }

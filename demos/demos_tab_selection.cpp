@@ -31,6 +31,7 @@ void DemosTab::lstDemos_Click() {
     controls_.chkShowAllDemos.SetEnabled(true);
     ++selections_;
     demo_ = {};
+    unread_ = true;
     demo_.Item = item;
     demo_.Path = RealPath(state_.current.DemoFolder, item, state_.current.DemoExtension);
     if (!pending_.entry.empty()) {
@@ -70,23 +71,40 @@ void DemosTab::ShowSelectedFile() {
 
 void DemosTab::ReadSelectedDemo() {
     const std::uint64_t selection = selections_;
+    bool isADemo = true;
     {
         const Hourglass hourglass(platform_.windows);
         platform_.windows.PumpPending();
-        if (selection != selections_) {
+        if (selection != selections_ || !unread_) {
             return;
         }
-        HeaderResult header = ReadDemoHeader(platform_.files, demo_.Path, state_.settings.Game);
-        if (!header.Ok()) {
-            demo_.Unreadable = true;
-            return;
-        }
-        if (header.Value()) {
-            TakeHeader(std::move(*header.Value()));
-            return;
-        }
+        isADemo = ReadHeader();
     }
-    OfferNotADemoRename();
+    if (!isADemo) {
+        OfferNotADemoRename();
+    }
+}
+
+// A double click plays the demo before the procedure of its first click goes on; so whoever needs
+// what the file holds has it read first.
+void DemosTab::ReadNow() {
+    if (unread_ && !ReadHeader()) {
+        OfferNotADemoRename();
+    }
+}
+
+// False when the file is no demo.
+bool DemosTab::ReadHeader() {
+    unread_ = false;
+    HeaderResult header = ReadDemoHeader(platform_.files, demo_.Path, state_.settings.Game);
+    if (!header.Ok()) {
+        demo_.Unreadable = true;
+    } else if (header.Value()) {
+        TakeHeader(std::move(*header.Value()));
+    } else {
+        return false;
+    }
+    return true;
 }
 
 void DemosTab::TakeHeader(DemoHeader header) {
@@ -120,6 +138,7 @@ void DemosTab::OfferNotADemoRename() {
 void DemosTab::ResetDemoProperties() {
     ++selections_;
     demo_ = {};
+    unread_ = false;
     properties_.Reset();
 }
 

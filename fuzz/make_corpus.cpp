@@ -50,6 +50,12 @@ void WriteQuake3(const std::filesystem::path& folder) {
                    {.map = "q3dm6", .levelName = "Camp", .levelNameAt = kBlockEnd - 6}));
 }
 
+void WriteMods(const std::filesystem::path& folder) {
+    Write(folder, "quake2", MakeDemo(DemoKind::Dm2, {.mod = "ctf"}).substr(0, 400));
+    Write(folder, "quake3", MakeDemo(DemoKind::Dm3, {.mod = "osp"}).substr(0, 1000));
+    Write(folder, "hostile", std::string(14, 'x') + "..\\..\\a:b" + '\0' + "\\gamename\\../con\\");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -60,5 +66,6 @@ int main(int argc, char** argv) {
     WriteQuake1(corpus / "fuzz_quake1_demo");
     WriteQuake2(corpus / "fuzz_quake2_demo");
     WriteQuake3(corpus / "fuzz_quake3_demo");
+    WriteMods(corpus / "fuzz_demo_mod");
     return 0;
 }

@@ -4,6 +4,7 @@
 
 #include "ui/demos_tab_table.h"
 #include "ui/form_tables.h"
+#include "ui/misc_tab_table.h"
 #include "ui/resource.h"
 
 namespace zentar {
@@ -107,6 +108,7 @@ std::vector<ControlRow> AllControls() {
     Append<ControlRow>(rows, kGameRows);
     Append<ControlRow>(rows, kTabRows);
     Append<ControlRow>(rows, DemosTabControlRows());
+    Append<ControlRow>(rows, MiscTabControlRows());
     Append<ControlRow>(rows, kTimerRows);
     return rows;
 }

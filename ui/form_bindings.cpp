@@ -61,6 +61,16 @@ DemosTabControls DemosTabControlsOf(Form& Form2) {
         .mnuDemosSearchDesc = Form2.GetMenu(IDM_mnuDemosSearchDesc),
         .mnuDemosSearchMap = Form2.GetMenu(IDM_mnuDemosSearchMap),
         .mnuDemosRefresh = Form2.GetMenu(IDM_mnuDemosRefresh),
+        .tmrQ3Game = Form2.GetTimer(IDC_tmrQ3Game),
+    };
+}
+
+DemoInstallerControls DemoInstallerControlsOf(Form& Form2) {
+    return {
+        .fraDemoInstaller = Form2.GetFrame(IDC_fraDemoInstaller),
+        .picDemoInstaller = Form2.GetPicture(IDC_picDemoInstaller),
+        .labDemoInstaller = Form2.GetLabel(IDC_labDemoInstaller),
+        .cmdDemoInstaller = Form2.GetButton(IDC_cmdDemoInstaller),
     };
 }
 

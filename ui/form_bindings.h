@@ -4,6 +4,7 @@
 #include "core/game_selection.h"
 #include "core/preferences.h"
 #include "core/settings_file.h"
+#include "demos/demo_installer.h"
 #include "demos/demos_tab_controls.h"
 #include "platform/form.h"
 
@@ -12,6 +13,7 @@ namespace zentar {
 GameSelectionControls GameSelectionControlsOf(Form& Form2);
 SettingsControls SettingsControlsOf(Form& Form2);
 DemosTabControls DemosTabControlsOf(Form& Form2);
+DemoInstallerControls DemoInstallerControlsOf(Form& Form2);
 PreferencesControls PreferencesControlsOf(Form& Form4);
 
 }  // namespace zentar

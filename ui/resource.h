@@ -11,6 +11,7 @@
 #define IDI_TAB_MISC 13
 #define IDI_TAB_Q3TEXT 14
 #define IDI_TAB_FIRSTAID 15
+#define IDI_INSTALLER 16
 
 // Windows
 #define IDW_Form1 101
@@ -55,6 +56,12 @@
 #define IDC_labDemo1 1217
 #define IDC_labDemo2 1218
 #define IDC_labFilterInfo 1219
+
+// Misc tab
+#define IDC_fraDemoInstaller 1301
+#define IDC_picDemoInstaller 1302
+#define IDC_labDemoInstaller 1303
+#define IDC_cmdDemoInstaller 1304
 
 // Preferences
 #define IDC_tabPreferences 1401

@@ -31,11 +31,14 @@ void ZentarProgram::BuildMainWindow() {
     demos_ = std::make_unique<DemosTab>(
         state_, platform_, DemosTabControlsOf(Form2), [&Form2] { Form2.ShowPopup(IDM_mnuDemos); },
         [this] { return state_.FirstActivationDone; });
+    installer_ =
+        std::make_unique<DemoInstaller>(state_, platform_, DemoInstallerControlsOf(Form2), *demos_);
     GameFollowers& followers = *this;
     games_ = std::make_unique<GameSelection>(state_, platform_, GameSelectionControlsOf(Form2),
                                              followers);
     life_ = std::make_unique<ProgramLife>(state_, platform_, *games_, SettingsControlsOf(Form2),
-                                          Form2.GetTab(IDC_SSTab1), Form2.GetTimer(IDC_tmrQ3Game));
+                                          Form2.GetTab(IDC_SSTab1), Form2.GetTimer(IDC_tmrQ3Game),
+                                          [this] { demos_->RestoreHiddenPaks(); });
 }
 
 void ZentarProgram::BindMainWindow() {
@@ -66,6 +69,8 @@ void ZentarProgram::ShowPreferences() {
 }
 
 void ZentarProgram::FillDemoFilterList(const GameInfo& game) { demos_->FillPhraseList(game); }
+
+void ZentarProgram::ArrangeDemoInstaller(const GameInfo& game) { installer_->Arrange(game); }
 
 void ZentarProgram::ArrangeDemoProperties(const GameInfo& game) {
     demos_->ArrangeProperties(game.id == kQuake3);

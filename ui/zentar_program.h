@@ -8,6 +8,7 @@
 #include "core/preferences.h"
 #include "core/program_life.h"
 #include "core/program_state.h"
+#include "demos/demo_installer.h"
 #include "demos/demos_tab.h"
 #include "platform/form.h"
 #include "platform/platform.h"
@@ -33,6 +34,7 @@ class ZentarProgram final : private GameFollowers {
     void ShowPreferences();
 
     void FillDemoFilterList(const GameInfo& game) override;
+    void ArrangeDemoInstaller(const GameInfo& game) override;
     void ArrangeDemoProperties(const GameInfo& game) override;
     void RefreshDemoList() override;
 
@@ -40,6 +42,7 @@ class ZentarProgram final : private GameFollowers {
     ProgramState state_;
     std::unique_ptr<Form> Form2_;
     std::unique_ptr<DemosTab> demos_;
+    std::unique_ptr<DemoInstaller> installer_;
     std::unique_ptr<GameSelection> games_;
     std::unique_ptr<ProgramLife> life_;
     std::unique_ptr<Form> Form4_;

@@ -30,6 +30,13 @@ TEST(Pictures, OfEveryTabAndDialog) {
     const HWND popup = zentar.OpenPopup(IDC_lstDemos, "edge final");
     EXPECT_GT(TakePicture(main, "popup"), kSmallestPicture);
     zentar.ClosePopup(popup);
+    zentar.PressKey(VK_F2);
+    const HWND rename = zentar.WaitForWindow("ZentarForm", "Rename Demo");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(rename, "rename"), kSmallestPicture);
+    Press(VK_ESCAPE);
+    Eventually([rename] { return IsWindow(rename) == FALSE; });
+    zentar.Settle();
     zentar.ClickOn(IDC_chkShowAllDemos);
     EXPECT_SOON(zentar.Usable(IDC_cmdFilter), true);
     zentar.Settle();

@@ -58,36 +58,52 @@ TEST(DemosPopup, TheRightButtonSelectsTheDemoUnderThePointer) {
     EXPECT_SOON(zentar.Text(IDC_labDemoName), "Name: The Edge");
 }
 
-// Commands that nobody carries out yet are greyed; what the rules say of a demo shows in the menu
-// of searches.
-const std::vector<int> kSearched = {IDM_mnuDemosSearch, IDM_mnuDemosRefresh};
-const std::vector<int> kNotSearched = {IDM_mnuDemosRefresh};
+const std::vector<int> kNothingSelected = {IDM_mnuDemosDeleteAll, IDM_mnuDemosRefresh};
+const std::vector<int> kEverything = {
+    IDM_mnuDemosPlay,      IDM_mnuDemosDelete, IDM_mnuDemosRename,
+    IDM_mnuDemosRenameMap, IDM_mnuDemosCopy,   IDM_mnuDemosMove,
+    IDM_mnuDemosDeleteAll, IDM_mnuDemosSearch, IDM_mnuDemosRefresh};
+const std::vector<int> kFileCommands = {IDM_mnuDemosDelete,    IDM_mnuDemosRename,
+                                        IDM_mnuDemosCopy,      IDM_mnuDemosMove,
+                                        IDM_mnuDemosDeleteAll, IDM_mnuDemosRefresh};
 
-TEST(DemosPopup, OffersASearchOnlyForADemo) {
+std::vector<int> Without(std::vector<int> entries, int entry) {
+    std::erase(entries, entry);
+    return entries;
+}
+
+TEST(DemosPopup, OffersWhatCanBeDoneWithTheDemo) {
     const ZentarHome home;
     home.WriteIni();
     const ZentarDriver zentar(home);
     zentar.ShowTab(kDemosTab);
-    EXPECT_EQ(EnabledIn(zentar, zentar.OpenPopupBelowItems(IDC_lstDemos)), kNotSearched);
-    EXPECT_EQ(EnabledEntries(zentar, "edge final"), kSearched);
+    EXPECT_EQ(EnabledIn(zentar, zentar.OpenPopupBelowItems(IDC_lstDemos)), kNothingSelected);
+    EXPECT_EQ(EnabledEntries(zentar, "edge final"), kEverything);
+    EXPECT_EQ(EnabledEntries(zentar, "[q2dm3] warm-up"),
+              Without(kEverything, IDM_mnuDemosRenameMap));
     zentar.ClickItem(IDC_lstDemos, "shopping list");
     AnswerBox(zentar.WaitForBox("Error"), IDNO);
-    EXPECT_EQ(EnabledEntries(zentar, "shopping list"), kNotSearched);
+    EXPECT_EQ(EnabledEntries(zentar, "shopping list"), kFileCommands);
 }
 
-TEST(DemosPopup, AfterACompressedDemoTheOtherGamesDemosCannotBeSearchedEither) {
+// On a compressed demo Play stays as the menu showed it last.
+TEST(DemosPopup, ACompressedDemoLeavesPlayAsItWasForOtherGamesToo) {
     const ZentarHome home;
     home.WriteIni({"Game=Quake3"});
     const ZentarDriver zentar(home);
     zentar.ShowTab(kDemosTab);
-    EXPECT_EQ(EnabledEntries(zentar, "duel"), kSearched);
-    EXPECT_EQ(EnabledEntries(zentar, "duel  "), kNotSearched);
+    EXPECT_EQ(EnabledIn(zentar, zentar.OpenPopupBelowItems(IDC_lstDemos)), kNothingSelected);
+    EXPECT_EQ(EnabledEntries(zentar, "duel  "), kFileCommands);
+    EXPECT_EQ(EnabledEntries(zentar, "duel"), kEverything);
+    std::vector<int> withPlay = kFileCommands;
+    withPlay.insert(withPlay.begin(), IDM_mnuDemosPlay);
+    EXPECT_EQ(EnabledEntries(zentar, "duel  "), withPlay);
     zentar.ClickOn(IDC_optGameQuake2);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 8 of 8.");
-    EXPECT_EQ(EnabledEntries(zentar, "edge final"), kNotSearched);
+    EXPECT_EQ(EnabledEntries(zentar, "edge final"), withPlay);
     zentar.ClickOn(IDC_optGameQuake3);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
-    EXPECT_EQ(EnabledEntries(zentar, "duel"), kSearched);
+    EXPECT_EQ(EnabledEntries(zentar, "duel"), kEverything);
 }
 
 TEST(DemosPopup, RefreshListRefreshesIt) {

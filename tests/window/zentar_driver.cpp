@@ -226,6 +226,12 @@ void ZentarDriver::ClosePopup(HWND popup) const {
     Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
 }
 
+void ZentarDriver::Choose(int listBox, const std::string& item, char letter) const {
+    const HWND popup = OpenPopup(listBox, item);
+    Press(static_cast<WORD>(letter));
+    Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
+}
+
 int ZentarDriver::Close() {
     PostMessageW(main_, WM_CLOSE, 0, 0);
     return WaitForExit();

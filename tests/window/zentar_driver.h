@@ -71,6 +71,9 @@ class ZentarDriver {
     HWND OpenPopupBelowItems(int listBox) const;
     MenuLine PopupLine(HWND popup, int id) const;
     void ClosePopup(HWND popup) const;
+    // Opens the popup menu on an entry and picks a command by the letter that its caption
+    // underlines.
+    void Choose(int listBox, const std::string& item, char letter) const;
 
     // Closes the main window as its close button does. The exit code, or -1 if it does not end.
     int Close();

@@ -14,13 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The folder of this program, where the built zentar.exe lies too.
-fs::path BuildFolder() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return fs::path(path).parent_path();
-}
-
 fs::path NewFolder() {
     static int made = 0;
     const fs::path folder =
@@ -37,6 +30,12 @@ void MakeAllWritable(const fs::path& top) {
 }
 
 }  // namespace
+
+fs::path BuildFolder() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return fs::path(path).parent_path();
+}
 
 ZentarHome::ZentarHome(int extraDemos) : top_(NewFolder()) {
     fs::create_directories(Program());

@@ -32,6 +32,9 @@ class ZentarHome {
     std::filesystem::path top_;
 };
 
+// The folder of this program, where the built zentar.exe lies too.
+std::filesystem::path BuildFolder();
+
 // A folder as the settings file holds it: UTF-8 with a backslash at its end.
 std::string FolderText(const std::filesystem::path& folder);
 

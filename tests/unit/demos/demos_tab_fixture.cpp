@@ -22,12 +22,51 @@ DemosTabTest::DemosTabTest() {
 
 void DemosTabTest::Use(std::string_view game, const std::string& mod) {
     const GameInfo& info = AllGames()[static_cast<std::size_t>(GameIndex(game))];
+    const std::string folder = "C:\\Games\\" + std::string(game) + "\\";
+    GameState& installed = state.games[static_cast<std::size_t>(GameIndex(game))];
+    installed.GameFolder = folder;
+    installed.BaseModPath = folder + std::string(info.baseMod) + "\\";
+    installed.GameInstalled = true;
+    os.files.AddFile(folder + std::string(info.executable), "game");
     state.settings.Game = std::string(game);
+    state.settings.Remote = "D:\\Remote\\";
+    state.current.CurrentExe = std::string(info.executable);
+    state.current.CurrentGameFolder = folder;
+    state.current.CurrentBasePath = installed.BaseModPath;
+    state.current.SelectedMod = mod;
     state.current.DemoExtension = std::string(info.demoExtension);
-    state.current.DemoFolder =
-        "C:\\Games\\" + std::string(game) + "\\" + mod + "\\" + std::string(info.demoFolder);
+    state.current.DemoFolder = folder + mod + "\\" + std::string(info.demoFolder);
     os.files.AddFolder(state.current.DemoFolder);
+    os.files.AddFolder(state.settings.Remote);
     tab->RefreshDemoList();
+}
+
+void DemosTabTest::Pick(const std::string& entry, int menuEntry) {
+    form->SetPopupUser([this, menuEntry](int) { form->UserPickMenu(menuEntry); });
+    RightClick(entry);
+    form->SetPopupUser({});
+}
+
+void DemosTabTest::PressOn(const std::string& entry, Key key) {
+    Select(entry);
+    form->GetListBox(IDC_lstDemos).SetFocus();
+    form->UserKey(key);
+}
+
+std::vector<std::string> DemosTabTest::Names(const std::string& folder) {
+    return os.files.Names(folder.empty() ? state.current.DemoFolder : folder);
+}
+
+Message DemosTabTest::Confirm(const std::string& text) {
+    return {"Confirm", text, MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
+}
+
+Message DemosTabTest::ReadOnly(const std::string& text) {
+    return {"Error", text, MessageIcon::Exclamation, MessageButtons::YesNo, DefaultButton::Second};
+}
+
+Message DemosTabTest::Failure(const std::string& text) {
+    return {"Error", text, MessageIcon::Exclamation};
 }
 
 void DemosTabTest::AddDemo(const std::string& name, const std::string& bytes) {

@@ -32,6 +32,10 @@ class DemosTabTest : public testing::Test {
     void Select(const std::string& entry) { form->UserSelect(IDC_lstDemos, entry); }
     void RightClick(const std::string& entry);  // an entry that is not there: right beside all
     void Filter(const std::string& phrase, bool contain = true);  // and "Go"
+    // Right-clicks an entry and picks from the menu.
+    void Pick(const std::string& entry, int menuEntry);
+    // Selects an entry and presses a key on it.
+    void PressOn(const std::string& entry, Key key);
     // Runs once, the next time that waiting window messages are handled.
     void DuringNextPump(std::function<void()> event);
     void DuringPumpNumber(int number, std::function<void()> event);
@@ -44,6 +48,13 @@ class DemosTabTest : public testing::Test {
     std::string Selected() { return form->SelectedItem(IDC_lstDemos); }
     int IndexOf(const std::string& entry);
     Message Offer(const std::string& game) const;
+    // The names in a folder, that of the current mod's demos by default.
+    std::vector<std::string> Names(const std::string& folder = {});
+
+    // Boxes of the kinds that the commands show.
+    static Message Confirm(const std::string& text);
+    static Message ReadOnly(const std::string& text);
+    static Message Failure(const std::string& text);
 
     MemoryPlatform os;
     ProgramState state;

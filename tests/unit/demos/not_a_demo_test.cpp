@@ -114,7 +114,8 @@ TEST_F(NotADemo, TheNextDemoIsOneAgain) {
     Select("duel");
     EXPECT_FALSE(tab->SelectedDemo().NotADemo);
     EXPECT_EQ(Text(IDC_labDemoMap), "Map: q2dm1");
-    form->UserKey(Key::Enter);  // asks nothing
+    os.windows.Expect(Confirm("Really start Quake2 and play this demo?"), Answer::No);
+    form->UserKey(Key::Enter);
 }
 
 TEST_F(NotADemo, AQuake3FileThatIsNoneLeavesTheGenerationAsItWas) {

@@ -59,6 +59,26 @@ TEST_F(ShutdownTest, SettingsAreSavedWhenWindowsEndsTheSession) {
     EXPECT_THAT(os.files.Contents(kIni), HasSubstr("\r\nGame=Quake3\r\n"));
 }
 
+TEST_F(ShutdownTest, HiddenGameFilesArePutBackBetweenSettingsAndTemporaryFiles) {
+    os.files.AddFile(kQuake3Folder + "baseq3\\pak4.zentar", "pak");
+    Start();
+    os.log.Clear();
+    Quit();
+    EXPECT_TRUE(os.files.Exists(kQuake3Folder + "baseq3\\pak4.pk3"));
+    EXPECT_TRUE(os.log.Ordered(
+        {"Replace c:\\program files\\zentar\\zentar.ini.new -> "
+         "c:\\program files\\zentar\\zentar.ini",
+         "Rename " + kQuake3Folder + "baseq3\\pak4.zentar -> " + kQuake3Folder + "baseq3\\pak4.pk3",
+         "Delete C:\\Windows\\zentar-tmp.gif"}));
+}
+
+TEST_F(ShutdownTest, AndWhenWindowsEndsTheSession) {
+    os.files.AddFile(kQuake3Folder + "baseq3\\pak6.zentar", "pak");
+    Start();
+    Window().EndSession();
+    EXPECT_TRUE(os.files.Exists(kQuake3Folder + "baseq3\\pak6.pk3"));
+}
+
 TEST_F(ShutdownTest, SettingsComeFirstThenTheTemporaryFilesGo) {
     Start();
     os.files.AddFile("C:\\Windows\\zentar-tmp.gif", "busy");

@@ -83,6 +83,11 @@ TEST(CaptionsTest, OfTheDemosTab) {
         });
 }
 
+TEST(CaptionsTest, OfTheMiscTab) {
+    ExpectWording(MainWindowTable(), {{IDC_cmdDemoInstaller, "Install Demos",
+                                       "Click here to select a folder of demos to install."}});
+}
+
 TEST(CaptionsTest, OfThePreferences) {
     EXPECT_STREQ(PreferencesTable().caption, "Preferences");
     ExpectWording(

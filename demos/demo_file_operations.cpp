@@ -1,0 +1,162 @@
+#include "demos/demo_file_operations.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/file_name.h"
+#include "core/game_text.h"
+#include "core/questions.h"
+#include "core/text.h"
+#include "demos/demo_messages.h"
+#include "demos/demo_name.h"
+#include "demos/hourglass.h"
+#include "platform/file_system.h"
+
+namespace zentar {
+namespace {
+
+Status ForceDelete(FileSystem& files, const std::string& path) {
+    // What refuses this refuses the deletion, too.
+    IgnoreFailure(files.ClearAttributes(path));
+    return files.Delete(path);
+}
+
+// Deletes demos of a list one after the other. Of those that are read-only it asks once: nobody
+// wants to answer a thousand times.
+class Deletion {
+  public:
+    explicit Deletion(const Platform& platform) : platform_(platform) {}
+
+    void Delete(const std::string& path) {
+        const Result<FileInfo> info = platform_.files.Info(path);
+        if (info.Ok() && info.Value().readOnly && !ReadOnlyOnesToo()) {
+            ++kept_;
+            return;
+        }
+        const Status deleted = ForceDelete(platform_.files, path);
+        // One that is gone already is as it should be.
+        if (!deleted.Ok() && deleted.Error() != FileError::NotFound) {
+            ++kept_;
+        }
+    }
+
+    std::uint64_t Kept() const { return kept_; }
+
+  private:
+    bool ReadOnlyOnesToo() {
+        if (!asked_) {
+            asked_ = true;
+            readOnlyOnesToo_ = platform_.windows.Ask(messages::DeleteReadOnlyDemo()) == Answer::Yes;
+        }
+        return readOnlyOnesToo_;
+    }
+
+    Platform platform_;
+    bool asked_ = false;
+    bool readOnlyOnesToo_ = false;
+    std::uint64_t kept_ = 0;
+};
+
+}  // namespace
+
+void DemoFileOperations::DeleteSelected() {
+    const DemoInfo demo = list_.SelectedDemo();
+    if (demo.Item.empty() || !Confirmed(state_, platform_.windows, messages::ReallyDeleteDemo())) {
+        return;
+    }
+    const std::string neighbour = NeighbourOf(demo.Item);
+    if (!MayChangeFile(platform_, demo.Path, messages::DeleteReadOnlyDemo())) {
+        return;
+    }
+    const Status deleted = ForceDelete(platform_.files, demo.Path);
+    if (!deleted.Ok() && deleted.Error() != FileError::NotFound) {
+        platform_.windows.Ask(messages::DemoNotDeleted());
+        return;
+    }
+    if (state_.settings.AutoNextDemo == 1) {
+        list_.SetPendingReselection(neighbour);
+    }
+    list_.RefreshDemoList();
+}
+
+// The entry after it, or before it if it is the last one; empty when it is the only one.
+std::string DemoFileOperations::NeighbourOf(const std::string& entry) const {
+    const std::vector<std::string> entries = list_.ListedDemos();
+    const auto at = std::find(entries.begin(), entries.end(), entry);
+    if (at == entries.end() || entries.size() == 1) {
+        return {};
+    }
+    return at + 1 == entries.end() ? *(at - 1) : *(at + 1);
+}
+
+void DemoFileOperations::DeleteAllListed() {
+    const std::vector<std::string> entries = list_.ListedDemos();
+    const std::string folder = state_.current.DemoFolder;
+    const std::string extension = state_.current.DemoExtension;
+    if (!Confirmed(state_, platform_.windows, messages::ReallyDeleteAllListedDemos())) {
+        return;
+    }
+    Deletion deletion(platform_);
+    {
+        const Hourglass hourglass(platform_.windows);
+        for (const std::string& entry : entries) {
+            deletion.Delete(RealPath(folder, entry, extension));
+        }
+    }
+    list_.RefreshDemoList();
+    if (deletion.Kept() > 0) {
+        platform_.windows.Ask(messages::DemosNotDeleted(deletion.Kept(), entries.size()));
+    }
+}
+
+void DemoFileOperations::RenameSelected() {
+    const DemoInfo demo = list_.SelectedDemo();
+    if (demo.Item.empty()) {
+        return;
+    }
+    const std::string bare = TrimBlanks(demo.Item);
+    const std::optional<std::string> answer =
+        platform_.windows.AskText(messages::EnterNewDemoName(bare));
+    const std::string_view extension = RealExtension(demo.Item, state_.current.DemoExtension);
+    std::string name = TrimBlanks(answer.value_or(""));
+    std::string typedExtension(extension);
+    if (EndsWithAnyCase(name, extension)) {
+        typedExtension = name.substr(name.size() - extension.size());
+        name = TrimBlanks(name.substr(0, name.size() - extension.size()));
+    }
+    if (name.empty() || name == bare || !ValidateFileName(platform_.windows, name)) {
+        return;
+    }
+    Rename(demo, name + typedExtension, std::string(name).append(EntryMarkers(extension)));
+}
+
+void DemoFileOperations::RenameSelectedWithMap() {
+    const DemoInfo demo = list_.SelectedDemo();
+    const std::string prefix = "[" + GameTextToUtf8(demo.Map) + "]_";
+    if (demo.Item.empty() || demo.NotADemo || demo.Unreadable ||
+        !ValidateFileName(platform_.windows, prefix)) {
+        return;
+    }
+    const std::string_view extension = RealExtension(demo.Item, state_.current.DemoExtension);
+    const std::string name = prefix + TrimBlanks(demo.Item);
+    Rename(demo, std::string(name).append(extension),
+           std::string(name).append(EntryMarkers(extension)));
+}
+
+void DemoFileOperations::Rename(const DemoInfo& demo, const std::string& fileName,
+                                const std::string& entry) {
+    const Status renamed =
+        platform_.files.Rename(demo.Path, std::string(FolderOf(demo.Path)) + fileName);
+    if (!renamed.Ok()) {
+        platform_.windows.Ask(messages::DemoNotRenamed(renamed.Error()));
+        if (renamed.Error() != FileError::NotFound) {
+            return;
+        }
+        // Somebody else has moved the demo: the list is out of date.
+    } else {
+        list_.SetPendingReselection(entry);
+    }
+    list_.RefreshDemoList();
+}
+
+}  // namespace zentar

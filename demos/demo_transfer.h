@@ -1,0 +1,49 @@
+// Copying and moving demos to the Remote Folder.
+//
+// A demo is deleted only after its copy has been checked, and a demo of that name in the Remote
+// Folder is replaced only by a whole copy.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/file_copy.h"
+#include "core/program_state.h"
+#include "demos/demo_list_view.h"
+#include "demos/transfer_messages.h"
+#include "platform/platform.h"
+
+namespace zentar {
+
+class DemoTransfer {
+  public:
+    DemoTransfer(ProgramState& state, const Platform& platform, DemoListView& list)
+        : state_(state), platform_(platform), list_(list) {}
+
+    void CopySelected() { Transfer(TransferVerb::Copy); }
+    void MoveSelected() { Transfer(TransferVerb::Move); }
+
+  private:
+    struct Job {
+        TransferVerb verb;
+        std::string source;
+        std::string target;
+        std::string mod;
+        std::uint64_t length = 0;
+        bool overwrites = false;
+        bool sameDrive = false;
+    };
+
+    void Transfer(TransferVerb verb);
+    bool MayBegin(Job& job);
+    bool HasRoom(const Job& job);
+    CopyOutcome Carry(const Job& job);
+    bool DeleteSource(const Job& job);
+    void ShowResult(const Job& job, const std::string& item);
+
+    ProgramState& state_;
+    Platform platform_;
+    DemoListView& list_;
+};
+
+}  // namespace zentar
