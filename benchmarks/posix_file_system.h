@@ -31,6 +31,9 @@ class PosixFileSystem : public FileSystem {
         return FileError::AccessDenied;
     }
     Status Delete(const std::string& /*path*/) override { return FileError::AccessDenied; }
+    Status DeleteOriginal(const std::string& /*original*/, const std::string& /*copy*/) override {
+        return FileError::AccessDenied;
+    }
     Status CreateFolder(const std::string& /*path*/) override { return FileError::AccessDenied; }
     Result<std::uint64_t> FreeSpace(const std::string& /*root*/) override {
         return FileError::AccessDenied;

@@ -39,8 +39,12 @@ CopyOutcome CopyFileWhole(FileSystem& files, const std::string& from, const std:
     }
     const std::string unfinished = std::string(FolderOf(to)).append(kUnfinished);
     Remove(files, unfinished);
-    // Whether it succeeded shows in what there is now.
-    IgnoreFailure(files.Copy(from, unfinished, false));
+    const Status copied = files.Copy(from, unfinished, false);
+    if (!copied.Ok() && copied.Error() == FileError::AlreadyExists) {
+        // Another Zentar is copying into this folder; that one is not ours.
+        return CopyOutcome::Missing;
+    }
+    // Whether it succeeded otherwise shows in what there is now.
     const Result<FileInfo> copy = files.Info(unfinished);
     if (!copy.Ok()) {
         return CopyOutcome::Missing;

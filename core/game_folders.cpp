@@ -1,11 +1,29 @@
 #include "core/game_folders.h"
 
+#include <algorithm>
+#include <array>
+
 #include "core/messages.h"
 #include "core/text.h"
 #include "platform/shell.h"
 
 namespace zentar {
 namespace {
+
+constexpr std::array<std::string_view, 14> kNoMods = {".",
+                                                      "..",
+                                                      "ctf_logs",
+                                                      "docs",
+                                                      "extras",
+                                                      "ereg",
+                                                      "gamespy",
+                                                      "heat",
+                                                      "kprad",
+                                                      "ratlogs",
+                                                      "release",
+                                                      "team arena help",
+                                                      "zentar strays",
+                                                      "single-player backups"};
 
 std::string ExecutablePath(const GameInfo& info, const GameState& game) {
     return game.GameFolder + std::string(info.executable);
@@ -37,6 +55,10 @@ void DetectInstalledGames(ProgramState& state, FileSystem& files) {
         }
         UpdateBaseModPath(info, game);
     }
+}
+
+bool HoldsNoMod(std::string_view folder) {
+    return std::find(kNoMods.begin(), kNoMods.end(), folder) != kNoMods.end();
 }
 
 bool ChooseGameFolder(ProgramState& state, const Platform& platform) {

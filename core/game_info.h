@@ -15,6 +15,7 @@ inline constexpr std::string_view kQuake1 = "Quake1";
 inline constexpr std::string_view kQuake2 = "Quake2";
 inline constexpr std::string_view kQuake3 = "Quake3";
 inline constexpr std::size_t kGameCount = 3;
+inline constexpr std::size_t kQuake3Row = 2;  // in AllGames()
 
 struct GameInfo {
     std::string_view id;

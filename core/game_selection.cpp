@@ -8,25 +8,6 @@
 #include "platform/file_system.h"
 
 namespace zentar {
-namespace {
-
-// Folders beside the mods that hold none.
-constexpr std::array<std::string_view, 14> kNoMods = {".",
-                                                      "..",
-                                                      "ctf_logs",
-                                                      "docs",
-                                                      "extras",
-                                                      "ereg",
-                                                      "gamespy",
-                                                      "heat",
-                                                      "kprad",
-                                                      "ratlogs",
-                                                      "release",
-                                                      "team arena help",
-                                                      "zentar strays",
-                                                      "single-player backups"};
-
-}  // namespace
 
 GameSelection::GameSelection(ProgramState& state, const Platform& platform,
                              const GameSelectionControls& controls, GameFollowers& followers)
@@ -118,7 +99,7 @@ std::vector<std::string> GameSelection::FindMods() {
             return;
         }
         std::string name = LowerCase(entry.name);
-        if (std::find(kNoMods.begin(), kNoMods.end(), name) == kNoMods.end()) {
+        if (!HoldsNoMod(name)) {
             mods.push_back(std::move(name));
         }
     };

@@ -5,6 +5,7 @@
 
 #include "core/file_name.h"
 #include "core/game_text.h"
+#include "core/messages.h"
 #include "core/questions.h"
 #include "core/text.h"
 #include "demos/demo_messages.h"
@@ -90,22 +91,23 @@ std::string DemoFileOperations::NeighbourOf(const std::string& entry) const {
 }
 
 void DemoFileOperations::DeleteAllListed() {
-    const std::vector<std::string> entries = list_.ListedDemos();
-    const std::string folder = state_.current.DemoFolder;
-    const std::string extension = state_.current.DemoExtension;
+    std::vector<std::string> paths;
+    for (const std::string& entry : list_.ListedDemos()) {
+        paths.push_back(list_.PathOfListed(entry));
+    }
     if (!Confirmed(state_, platform_.windows, messages::ReallyDeleteAllListedDemos())) {
         return;
     }
     Deletion deletion(platform_);
     {
         const Hourglass hourglass(platform_.windows);
-        for (const std::string& entry : entries) {
-            deletion.Delete(RealPath(folder, entry, extension));
+        for (const std::string& path : paths) {
+            deletion.Delete(path);
         }
     }
     list_.RefreshDemoList();
     if (deletion.Kept() > 0) {
-        platform_.windows.Ask(messages::DemosNotDeleted(deletion.Kept(), entries.size()));
+        platform_.windows.Ask(messages::DemosNotDeleted(deletion.Kept(), paths.size()));
     }
 }
 
@@ -117,44 +119,48 @@ void DemoFileOperations::RenameSelected() {
     const std::string bare = TrimBlanks(demo.Item);
     const std::optional<std::string> answer =
         platform_.windows.AskText(messages::EnterNewDemoName(bare));
-    const std::string_view extension = RealExtension(demo.Item, state_.current.DemoExtension);
     std::string name = TrimBlanks(answer.value_or(""));
-    std::string typedExtension(extension);
-    if (EndsWithAnyCase(name, extension)) {
-        typedExtension = name.substr(name.size() - extension.size());
-        name = TrimBlanks(name.substr(0, name.size() - extension.size()));
+    std::string extension = demo.Extension;
+    if (EndsWithAnyCase(name, demo.Extension)) {
+        extension = name.substr(name.size() - demo.Extension.size());
+        name = TrimBlanks(name.substr(0, name.size() - demo.Extension.size()));
     }
-    if (name.empty() || name == bare || !ValidateFileName(platform_.windows, name)) {
+    if (name.empty() || name == bare) {
         return;
     }
-    Rename(demo, name + typedExtension, std::string(name).append(EntryMarkers(extension)));
+    if (name.size() > kLongestFileName) {
+        platform_.windows.Ask(messages::DemoNotRenamed(FileError::BadName));
+    } else if (ValidateFileName(platform_.windows, name)) {
+        Rename(demo, name, extension);
+    }
 }
 
 void DemoFileOperations::RenameSelectedWithMap() {
     const DemoInfo demo = list_.SelectedDemo();
-    const std::string prefix = "[" + GameTextToUtf8(demo.Map) + "]_";
-    if (demo.Item.empty() || demo.NotADemo || demo.Unreadable ||
-        !ValidateFileName(platform_.windows, prefix)) {
+    if (demo.Item.empty() || demo.NotADemo || demo.Unreadable) {
         return;
     }
-    const std::string_view extension = RealExtension(demo.Item, state_.current.DemoExtension);
-    const std::string name = prefix + TrimBlanks(demo.Item);
-    Rename(demo, std::string(name).append(extension),
-           std::string(name).append(EntryMarkers(extension)));
+    const std::string prefix = "[" + GameTextToUtf8(demo.Map) + "]_";
+    // Nobody typed this: one message is enough, whatever a demo calls its map.
+    if (HoldsIllegalCharacter(prefix)) {
+        platform_.windows.Ask(messages::IllegalCharacters());
+        return;
+    }
+    Rename(demo, prefix + TrimBlanks(demo.Item), demo.Extension);
 }
 
-void DemoFileOperations::Rename(const DemoInfo& demo, const std::string& fileName,
-                                const std::string& entry) {
-    const Status renamed =
-        platform_.files.Rename(demo.Path, std::string(FolderOf(demo.Path)) + fileName);
-    if (!renamed.Ok()) {
+void DemoFileOperations::Rename(const DemoInfo& demo, const std::string& name,
+                                const std::string& extension) {
+    const std::string to = std::string(FolderOf(demo.Path)) + name + extension;
+    const Status renamed = platform_.files.Rename(demo.Path, to);
+    if (renamed.Ok()) {
+        list_.SetPendingReselection(name + std::string(EntryMarkers(demo.Extension)));
+    } else {
         platform_.windows.Ask(messages::DemoNotRenamed(renamed.Error()));
         if (renamed.Error() != FileError::NotFound) {
             return;
         }
         // Somebody else has moved the demo: the list is out of date.
-    } else {
-        list_.SetPendingReselection(entry);
     }
     list_.RefreshDemoList();
 }

@@ -29,7 +29,7 @@ class DemoFileOperations {
 
   private:
     std::string NeighbourOf(const std::string& entry) const;
-    void Rename(const DemoInfo& demo, const std::string& fileName, const std::string& entry);
+    void Rename(const DemoInfo& demo, const std::string& name, const std::string& extension);
 
     const ProgramState& state_;
     Platform platform_;

@@ -13,6 +13,7 @@ namespace zentar {
 struct DemoInfo {
     std::string Item;  // the entry, exactly as the list shows it; empty when none is selected
     std::string Path;
+    std::string Extension;                         // of the file, in lower case: ".dm2", ".dm_48"
     std::string Map;                               // lower case, without folder and extension
     std::string Name;                              // the level's descriptive name; may be empty
     Q3Generation Generation = Q3Generation::None;  // Quake 3 only

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/file_copy.h"
+#include "core/game_folders.h"
 #include "core/game_text.h"
 #include "core/text.h"
 #include "demos/demo_mod.h"
@@ -22,21 +23,25 @@ class Installation {
         : files_(files), game_(game), gameFolder_(gameFolder) {}
 
     // True when the demo is in its mod's folder afterwards.
-    bool Install(const std::string& from, const FolderEntry& demo) {
-        const std::string source = from + demo.name;
+    bool Install(const std::string& from, const std::string& name) {
+        const std::string source = from + name;
         const std::string mod = ModOf(source);
+        const Result<FileInfo> info = files_.Info(source);
+        if (!IsFolderName(mod) || HoldsNoMod(LowerCase(mod)) || !info.Ok()) {
+            return false;
+        }
         // An empty Quake 2 demo was never finished.
-        if (!IsFolderName(mod) || (game_.id == kQuake2 && demo.info.length == 0)) {
+        if (game_.id == kQuake2 && info.Value().length == 0) {
             return false;
         }
         const std::string folder = gameFolder_ + mod + "\\demos\\";
         // Fails where the folder is there, and where the mod is not, which the next step finds out.
         IgnoreFailure(files_.CreateFolder(folder));
-        const std::string target = folder + demo.name;
+        const std::string target = folder + name;
         if (files_.Info(target).Ok()) {
             return IsInstalled(source, target);
         }
-        return Move(source, target, demo.info.length);
+        return Move(source, target, info.Value().length);
     }
 
   private:
@@ -69,7 +74,7 @@ class Installation {
             return false;
         }
         // A read-only one stays: nobody was asked.
-        IgnoreFailure(files_.Delete(source));
+        IgnoreFailure(files_.DeleteOriginal(source, target));
         return true;
     }
 
@@ -81,7 +86,7 @@ class Installation {
         if (CopyFileWhole(files_, source, target, length, Existing::Keep) != CopyOutcome::Whole) {
             return false;
         }
-        IgnoreFailure(files_.Delete(source));
+        IgnoreFailure(files_.DeleteOriginal(source, target));
         return true;
     }
 
@@ -94,17 +99,17 @@ class Installation {
 
 InstallCount InstallDemos(FileSystem& files, const GameInfo& game, const std::string& gameFolder,
                           const std::string& from) {
-    std::vector<FolderEntry> demos;
+    std::vector<std::string> demos;
     const auto collect = [&](const FolderEntry& entry) {
         if (!entry.info.isFolder && IsDemoOf(game, entry.name)) {
-            demos.push_back(entry);
+            demos.push_back(entry.name);
         }
     };
     // Of a folder that stops answering, those demos are installed that it named before.
     IgnoreFailure(files.Enumerate(from, collect));
     InstallCount count;
     Installation installation(files, game, gameFolder);
-    for (const FolderEntry& demo : demos) {
+    for (const std::string& demo : demos) {
         ++count.found;
         if (installation.Install(from, demo)) {
             ++count.installed;

@@ -16,7 +16,7 @@ DemoInstaller::DemoInstaller(ProgramState& state, const Platform& platform,
                              const DemoInstallerControls& controls, DemoListView& list)
     : state_(state), platform_(platform), controls_(controls), list_(list) {
     ControlEvents install;
-    install.click = [this] { cmdDemoInstaller_Click(); };
+    install.click = [this] { list_.RunCommand([this] { cmdDemoInstaller_Click(); }); };
     controls_.cmdDemoInstaller.SetEvents(std::move(install));
 }
 
@@ -68,7 +68,10 @@ void DemoInstaller::cmdDemoInstaller_Click() {
     }
     if (count.installed > 0) {
         // Some may have come to the mod whose demos are listed.
-        list_.SetPendingReselection(list_.SelectedDemo().Item);
+        const DemoInfo& selected = list_.SelectedDemo();
+        if (!selected.NotADemo) {
+            list_.SetPendingReselection(selected.Item);
+        }
         list_.RefreshDemoList();
     }
     platform_.windows.Ask(messages::DemosInstalled(game->id, count.installed, count.found));

@@ -1,6 +1,7 @@
 // The demo list, as the commands on demos use it.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,8 @@ class DemoListView {
     // Its Item is empty when no demo is selected.
     virtual const DemoInfo& SelectedDemo() const = 0;
     virtual std::vector<std::string> ListedDemos() const = 0;
+    // Of a listed entry. The list may still be that of another mod than the current one.
+    virtual std::string PathOfListed(const std::string& entry) const = 0;
     // Lists the demos of the current mod anew. Nothing is selected afterwards, unless a reselection
     // is pending.
     virtual void RefreshDemoList() = 0;
@@ -22,6 +25,9 @@ class DemoListView {
     virtual void SetPendingReselection(const std::string& entry) = 0;
     // Asks whether the selected file, which is no demo, should be renamed out of the list.
     virtual void OfferNotADemoRename() = 0;
+    // Runs a command on demos, unless another one is under way: while that lets waiting messages
+    // run, the user may ask for more.
+    virtual void RunCommand(const std::function<void()>& command) = 0;
 };
 
 }  // namespace zentar

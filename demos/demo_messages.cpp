@@ -1,29 +1,11 @@
 #include "demos/demo_messages.h"
 
+#include "core/message_kinds.h"
 #include "core/program_info.h"
 #include "core/text.h"
 
 namespace zentar::messages {
 namespace {
-
-Message Confirmation(std::string text) {
-    return {.title = "Confirm",
-            .text = std::move(text),
-            .icon = MessageIcon::Question,
-            .buttons = MessageButtons::YesNo,
-            .defaultButton = DefaultButton::Second};
-}
-
-Message Failure(std::string text) {
-    return {.title = "Error", .text = std::move(text), .icon = MessageIcon::Exclamation};
-}
-
-Message FailureWithQuestion(std::string text) {
-    Message message = Failure(std::move(text));
-    message.buttons = MessageButtons::YesNo;
-    message.defaultButton = DefaultButton::Second;
-    return message;
-}
 
 constexpr std::string_view kInUseOrProtected =
     "The file may be in use, or its folder may be protected.";
@@ -109,10 +91,14 @@ Message OldGameNeeded(std::string_view version, std::string_view executable) {
                "the executable (zipped format, file size is 805 K), and try again."}));
 }
 
-Message PakNotHidden(std::string_view pak) {
+Message PakNotHidden(std::string_view pak, FileError why) {
+    const std::string name(pak);
+    const std::string reason = why == FileError::AlreadyExists
+                                   ? "There already is a \"" + name + ".zentar\" beside it."
+                                   : std::string(kInUseOrProtected);
     return Failure(Lines({"Zentar cannot play back this Quake 3 demo at this time.", "",
-                          "The file \"" + std::string(pak) + "\" must not be there while Quake 3",
-                          "v1.17 runs, and it couldn't be renamed.", "", kInUseOrProtected}));
+                          "The file \"" + name + ".pk3\" must not be there while Quake 3",
+                          "v1.17 runs, and it couldn't be renamed.", "", reason}));
 }
 
 Message GameNotStarted(std::string_view game, std::string_view executable) {

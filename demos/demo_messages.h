@@ -33,7 +33,8 @@ Message DemoIsUnreadable();
 // Playing. `version` is "1.17" or "1.27h".
 Message ReallyPlayDemo(std::string_view game);
 Message OldGameNeeded(std::string_view version, std::string_view executable);
-Message PakNotHidden(std::string_view pak);
+// A pack, without its extension, could not be put out of the old game's way.
+Message PakNotHidden(std::string_view pak, FileError why);
 Message GameNotStarted(std::string_view game, std::string_view executable);
 
 // Searching for a map.

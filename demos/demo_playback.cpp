@@ -3,9 +3,9 @@
 #include <array>
 #include <string_view>
 
+#include "core/file_name.h"
 #include "core/game_folders.h"
 #include "core/questions.h"
-#include "core/text.h"
 #include "demos/demo_messages.h"
 #include "platform/file_system.h"
 #include "platform/shell.h"
@@ -67,10 +67,15 @@ void DemoPlayback::PlayDemo() {
     }
     const bool playsV117 = PlaysV117();
     const std::string executable = Executable();
-    if (playsV117 && !HidePaks()) {
-        return;
-    }
-    if (executable == AllGames()[2].executable) {
+    if (playsV117) {
+        // A look at a game before this one would put the packs back.
+        const bool watching = tmrQ3Game_.Enabled();
+        tmrQ3Game_.SetEnabled(false);
+        if (!HidePaks()) {
+            tmrQ3Game_.SetEnabled(watching);
+            return;
+        }
+    } else if (PlaysNewestQuake3()) {
         // Some may still be hidden since a game whose end nobody saw.
         RestoreHiddenPaks();
     }
@@ -86,6 +91,10 @@ void DemoPlayback::PlayDemo() {
 }
 
 bool DemoPlayback::CanBePlayed(const DemoInfo& demo) {
+    if (FolderOf(demo.Path) != state_.current.DemoFolder) {
+        // Another mod or game has been picked, whose demos are about to be listed.
+        return false;
+    }
     if (demo.NotADemo) {
         list_.OfferNotADemoRename();
         return false;
@@ -104,6 +113,10 @@ bool DemoPlayback::CanBePlayed(const DemoInfo& demo) {
 
 bool DemoPlayback::PlaysV117() const {
     return state_.settings.Game == kQuake3 && state_.generation == Q3Generation::V117;
+}
+
+bool DemoPlayback::PlaysNewestQuake3() const {
+    return state_.settings.Game == kQuake3 && OldGameOf(state_.generation) == nullptr;
 }
 
 std::string DemoPlayback::Executable() const {
@@ -145,15 +158,16 @@ std::string DemoPlayback::Arguments(const std::string& item) const {
 
 bool DemoPlayback::HidePaks() {
     const std::string folder = state_.current.CurrentBasePath;
-    hiddenIn_ = folder;
+    hiddenIn_.insert(folder);
     for (const std::string_view pak : kLaterPaks) {
         const std::string shown = PakPath(folder, pak, kShown);
         if (!platform_.files.Info(shown).Ok()) {
             continue;
         }
-        if (!platform_.files.Rename(shown, PakPath(folder, pak, kHidden)).Ok()) {
+        const Status hidden = platform_.files.Rename(shown, PakPath(folder, pak, kHidden));
+        if (!hidden.Ok()) {
             RestoreHiddenPaks();
-            platform_.windows.Ask(messages::PakNotHidden(PakPath("", pak, kShown)));
+            platform_.windows.Ask(messages::PakNotHidden(pak, hidden.Error()));
             return false;
         }
     }
@@ -161,10 +175,9 @@ bool DemoPlayback::HidePaks() {
 }
 
 void DemoPlayback::RestoreHiddenPaks() {
-    const std::string base = state_.games[2].BaseModPath;
-    RestorePaksIn(base);
-    if (!hiddenIn_.empty() && LowerCase(hiddenIn_) != LowerCase(base)) {
-        RestorePaksIn(hiddenIn_);
+    RestorePaksIn(state_.games[kQuake3Row].BaseModPath);
+    for (const std::string& folder : hiddenIn_) {
+        RestorePaksIn(folder);
     }
 }
 

@@ -5,6 +5,7 @@
 // its base folder; these are hidden (renamed) while it plays, and put back once its window is gone.
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "core/program_state.h"
@@ -37,13 +38,14 @@ class DemoPlayback {
     std::string Executable() const;
     std::string Arguments(const std::string& item) const;
     bool PlaysV117() const;
+    bool PlaysNewestQuake3() const;
 
     ProgramState& state_;
     Platform platform_;
     DemoListView& list_;
     Timer& tmrQ3Game_;
     // Where packs were hidden; the user may choose another folder for the game meanwhile.
-    std::string hiddenIn_;
+    std::set<std::string> hiddenIn_;
 };
 
 }  // namespace zentar

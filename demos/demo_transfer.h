@@ -11,6 +11,7 @@
 #include "core/program_state.h"
 #include "demos/demo_list_view.h"
 #include "demos/transfer_messages.h"
+#include "platform/file_system.h"
 #include "platform/platform.h"
 
 namespace zentar {
@@ -29,17 +30,19 @@ class DemoTransfer {
         std::string source;
         std::string target;
         std::string mod;
-        std::uint64_t length = 0;
         bool overwrites = false;
         bool sameDrive = false;
+        bool leavesOriginal = false;  // of a moved demo that was copied
+        FileInfo copied{};            // what the original was when it was copied
     };
 
     void Transfer(TransferVerb verb);
     bool MayBegin(Job& job);
-    bool HasRoom(const Job& job);
-    CopyOutcome Carry(const Job& job);
-    bool DeleteSource(const Job& job);
-    void ShowResult(const Job& job, const std::string& item);
+    bool HasRoom(const Job& job, std::uint64_t length);
+    CopyOutcome Carry(Job& job);
+    bool DeleteOriginal(const Job& job);
+    bool IsStillTheCopied(const Job& job);
+    void ShowResult(const Job& job, const std::string& item, bool done);
 
     ProgramState& state_;
     Platform platform_;

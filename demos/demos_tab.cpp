@@ -65,7 +65,7 @@ void DemosTab::BindMenu() {
     controls_.mnuDemosRefresh.SetClick([this] { mnuDemosRefresh_Click(); });
 }
 
-void DemosTab::Command(const std::function<void()>& command) {
+void DemosTab::RunCommand(const std::function<void()>& command) {
     if (commandRuns_) {
         return;
     }
@@ -81,23 +81,23 @@ void DemosTab::Command(const std::function<void()>& command) {
 }
 
 std::function<void()> DemosTab::AsCommand(std::function<void()> command) {
-    return [this, command = std::move(command)] { Command(command); };
+    return [this, command = std::move(command)] { RunCommand(command); };
 }
 
 bool DemosTab::lstDemos_KeyDown(Key key) {
     switch (key) {
         case Key::F2:
-            Command([this] { files_.RenameSelected(); });
+            RunCommand([this] { files_.RenameSelected(); });
             return true;
         case Key::F5:
             RefreshDemoList();
             return true;
         case Key::Delete:
         case Key::Backspace:
-            Command([this] { files_.DeleteSelected(); });
+            RunCommand([this] { files_.DeleteSelected(); });
             return true;
         case Key::Enter:
-            Command([this] { PlayDemo(); });
+            RunCommand([this] { PlayDemo(); });
             return true;
         case Key::F1:
             break;

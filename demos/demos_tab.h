@@ -40,7 +40,9 @@ class DemosTab : public DemoListView {
     std::vector<std::string> ListedDemos() const override;
     void RefreshDemoList() override;
     void SetPendingReselection(const std::string& entry) override;
+    std::string PathOfListed(const std::string& entry) const override;
     void OfferNotADemoRename() override;
+    void RunCommand(const std::function<void()>& command) override;
     void ResetDemoProperties();
 
     // Puts back the game files that were hidden for an old demo.
@@ -69,9 +71,6 @@ class DemosTab : public DemoListView {
 
     void BindEvents();
     void BindMenu();
-    // Runs a command on demos, unless another one is under way: while that lets waiting messages
-    // run, the user may ask for more.
-    void Command(const std::function<void()>& command);
     std::function<void()> AsCommand(std::function<void()> command);
 
     std::uint64_t ScanFolder();
@@ -100,6 +99,9 @@ class DemosTab : public DemoListView {
     std::function<void()> showPopup_;
     std::function<bool()> startupFinished_;
 
+    // Where the listed demos are, which may no longer be the current mod's folder.
+    std::string listedFolder_;
+    std::string listedExtension_;
     DemoInfo demo_;
     bool unread_ = false;  // it was selected, and its content is still to be read
     PendingReselection pending_;

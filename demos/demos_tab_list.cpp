@@ -4,6 +4,7 @@
 #include "core/game_text.h"
 #include "core/text.h"
 #include "demos/demo_list.h"
+#include "demos/demo_name.h"
 #include "demos/demos_tab.h"
 #include "demos/hourglass.h"
 
@@ -31,8 +32,10 @@ void DemosTab::RefreshDemoList() {
 
 // Fills the list; gives the number of demos in the folder.
 std::uint64_t DemosTab::ScanFolder() {
-    const DemoListing listing = ListDemos(platform_.files, state_.current.DemoFolder,
-                                          state_.current.DemoExtension, Filter());
+    listedFolder_ = state_.current.DemoFolder;
+    listedExtension_ = state_.current.DemoExtension;
+    const DemoListing listing =
+        ListDemos(platform_.files, listedFolder_, listedExtension_, Filter());
     controls_.lstDemos.SetItems(listing.entries);
     return listing.total;
 }
@@ -59,6 +62,10 @@ std::vector<std::string> DemosTab::ListedDemos() const {
         entries.push_back(controls_.lstDemos.Item(index));
     }
     return entries;
+}
+
+std::string DemosTab::PathOfListed(const std::string& entry) const {
+    return RealPath(listedFolder_, entry, listedExtension_);
 }
 
 void DemosTab::SetPendingReselection(const std::string& entry) {

@@ -33,7 +33,8 @@ void DemosTab::lstDemos_Click() {
     demo_ = {};
     unread_ = true;
     demo_.Item = item;
-    demo_.Path = RealPath(state_.current.DemoFolder, item, state_.current.DemoExtension);
+    demo_.Path = PathOfListed(item);
+    demo_.Extension = RealExtension(item, listedExtension_);
     if (!pending_.entry.empty()) {
         // The user clicked while a rebuild was about to begin; the newer wish counts.
         SetPendingReselection(item);

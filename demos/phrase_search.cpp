@@ -93,6 +93,12 @@ PhraseSearch::PhraseSearch(std::string phrase)
     : phrase_(std::move(phrase)), memory_(phrase_.size() - 1 + kBlockSize) {}
 
 Result<bool> PhraseSearch::FoundIn(ReadableFile& file) {
+    const Result<std::optional<std::uint64_t>> first = FirstIn(file);
+    return first.Ok() ? Result<bool>(first.Value().has_value()) : Result<bool>(first.Error());
+}
+
+Result<std::optional<std::uint64_t>> PhraseSearch::FirstIn(ReadableFile& file) {
+    using First = std::optional<std::uint64_t>;
     std::size_t kept = 0;
     std::uint64_t offset = 0;
     while (true) {
@@ -102,11 +108,11 @@ Result<bool> PhraseSearch::FoundIn(ReadableFile& file) {
             return got.Error();
         }
         const std::string_view bytes(memory_.data(), kept + got.Value());
-        if (FindPhrase(bytes, phrase_) != std::string_view::npos) {
-            return true;
+        if (const std::size_t at = FindPhrase(bytes, phrase_); at != std::string_view::npos) {
+            return First(offset - kept + at);
         }
         if (got.Value() < kBlockSize) {
-            return false;
+            return First();
         }
         offset += got.Value();
         kept = std::min(bytes.size(), phrase_.size() - 1);

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +25,9 @@ class PhraseSearch {
     // `phrase` is not empty.
     explicit PhraseSearch(std::string phrase);
 
-    // Whether the file holds the phrase. Files of any length; the rest of the file behind the
-    // first occurrence is not read.
+    // Offset of the phrase's first occurrence; no value when there is none. Files of any length;
+    // the rest of the file behind the first occurrence is not read.
+    Result<std::optional<std::uint64_t>> FirstIn(ReadableFile& file);
     Result<bool> FoundIn(ReadableFile& file);
 
   private:

@@ -1,5 +1,6 @@
 #include "demos/transfer_messages.h"
 
+#include "core/message_kinds.h"
 #include "core/text.h"
 
 namespace zentar::messages {
@@ -9,28 +10,13 @@ std::string VerbOf(TransferVerb verb) { return verb == TransferVerb::Copy ? "cop
 
 std::string PastOf(TransferVerb verb) { return verb == TransferVerb::Copy ? "copied" : "moved"; }
 
-Message Confirmation(std::string text) {
-    return {.title = "Confirm",
-            .text = std::move(text),
-            .icon = MessageIcon::Question,
-            .buttons = MessageButtons::YesNo,
-            .defaultButton = DefaultButton::Second};
-}
-
-Message Critical(std::string text) {
-    return {.title = "Error", .text = std::move(text), .icon = MessageIcon::Critical};
-}
-
 }  // namespace
 
 Message NoSpaceForDemo(TransferVerb verb, const std::string& drive, std::uint64_t length,
                        std::uint64_t space, std::string_view separator) {
-    return {
-        .title = "Error",
-        .text = Lines({"No space on your " + drive + " drive to " + VerbOf(verb) + " this demo!",
-                       "", "Demo's file size (bytes):\t" + GroupDigits(length, separator),
-                       "Disk space free (bytes):\t" + GroupDigits(space, separator)}),
-        .icon = MessageIcon::Exclamation};
+    return Failure(Lines({"No space on your " + drive + " drive to " + VerbOf(verb) + " this demo!",
+                          "", "Demo's file size (bytes):\t" + GroupDigits(length, separator),
+                          "Disk space free (bytes):\t" + GroupDigits(space, separator)}));
 }
 
 Message ReallyTransferDemo(TransferVerb verb) {
@@ -42,12 +28,9 @@ Message DemoExistsInRemoteFolder() {
 }
 
 Message OverwriteReadOnlyDemo() {
-    return {.title = "Error",
-            .text = Lines({"Can't overwrite existing demo due to it being read-only.",
-                           "Would you like me to remove this setting to force the overwrite?"}),
-            .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNo,
-            .defaultButton = DefaultButton::Second};
+    return FailureWithQuestion(
+        Lines({"Can't overwrite existing demo due to it being read-only.",
+               "Would you like me to remove this setting to force the overwrite?"}));
 }
 
 Message DemoNotTransferred(TransferVerb verb, const std::string& mod) {
@@ -55,24 +38,25 @@ Message DemoNotTransferred(TransferVerb verb, const std::string& mod) {
         "Demo could not be " + PastOf(verb) + " to Remote Folder for some reason.";
     const std::string second = "This is most probably due to a lack of available disk space";
     if (verb == TransferVerb::Copy) {
-        return Critical(Lines({first, second + "."}));
+        return CriticalFailure(Lines({first, second + "."}));
     }
-    return Critical(Lines({first, second + ",",
-                           "and the original demo still remains in its " + mod + " sub-folder."}));
+    return CriticalFailure(
+        Lines({first, second + ",",
+               "and the original demo still remains in its " + mod + " sub-folder."}));
 }
 
 Message DemoPartlyTransferred(TransferVerb verb, const std::string& mod) {
     const std::string first = "Demo could not be completely " + PastOf(verb);
     if (verb == TransferVerb::Copy) {
-        return Critical(Lines({first, "The partial copy has been deleted as a result."}));
+        return CriticalFailure(Lines({first, "The partial copy has been deleted as a result."}));
     }
-    return Critical(
+    return CriticalFailure(
         Lines({first, "The partial move has been deleted and the original demo remains in its",
                mod + " sub-folder."}));
 }
 
 Message MovedDemoNotDeleted(const std::string& mod) {
-    return Critical(
+    return CriticalFailure(
         Lines({"Demo was copied to Remote Folder, but could not be deleted",
                "and so the original demo still remains in its " + mod + " sub-folder."}));
 }

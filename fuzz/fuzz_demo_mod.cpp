@@ -41,12 +41,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::abort();
     }
     CheckFolderName(mod2);
-    constexpr std::size_t kBlock = 5120;
     constexpr std::string_view kKey = "\\gamename\\";
-    const std::size_t key = bytes.substr(0, kBlock).find(kKey);
+    const std::size_t key = bytes.find(kKey);
     const std::string mod3 = zentar::ReadQuake3Mod(file).ValueOr("");
-    if (mod3 != (key == std::string_view::npos ? std::string_view()
-                                               : TextFrom(bytes, key + kKey.size(), '\\'))) {
+    const std::string_view plain3 = key == std::string_view::npos
+                                        ? std::string_view()
+                                        : TextFrom(bytes, key + kKey.size(), '\\');
+    if (mod3 != plain3.substr(0, plain3.find('\0'))) {
         std::abort();
     }
     CheckFolderName(mod3);

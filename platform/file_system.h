@@ -88,6 +88,8 @@ class FileSystem {
     virtual Result<bool> IsSameFile(const std::string& one, const std::string& other) = 0;
     // Deletes a file for good. AccessDenied when it is read-only.
     virtual Status Delete(const std::string& path) = 0;
+    // Deletes a file after it was copied, unless it is the copy itself, by whatever other name.
+    virtual Status DeleteOriginal(const std::string& original, const std::string& copy) = 0;
     // Creates one folder level; AlreadyExists when it is there.
     virtual Status CreateFolder(const std::string& path) = 0;
     // Bytes that the user may still write on the drive of a root such as "C:\".

@@ -177,7 +177,9 @@ Status Win32FileSystem::Rename(const std::string& from, const std::string& to) {
     if (!OnSameRoot(*source, *target)) {
         return FileError::Other;
     }
-    const Status renamed = Outcome(MoveFileExW(source->c_str(), target->c_str(), 0));
+    // On the disk before anything that builds on it, such as the deletion of an original.
+    const Status renamed =
+        Outcome(MoveFileExW(source->c_str(), target->c_str(), MOVEFILE_WRITE_THROUGH));
     if (renamed.Ok() && DifferInCaseOnly(*source, *target) && !HasStoredName(*target)) {
         return ChangeCase(*source, *target);
     }
@@ -247,6 +249,18 @@ Status Win32FileSystem::Delete(const std::string& path) {
         return FileError::NotFound;
     }
     return Outcome(DeleteFileW(native->c_str()));
+}
+
+Status Win32FileSystem::DeleteOriginal(const std::string& original, const std::string& copy) {
+    const std::optional<std::wstring> native = NativePath(copy);
+    if (!native) {
+        return FileError::NotFound;
+    }
+    // Nobody deletes a file that is held like this: not by its own path, and by no other either.
+    const UniqueFile held(CreateFileW(native->c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr));
+    return held ? Delete(original) : Status(LastFileError());
 }
 
 Status Win32FileSystem::CreateFolder(const std::string& path) {

@@ -18,6 +18,7 @@ class Win32FileSystem : public FileSystem {
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
     Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;
+    Status DeleteOriginal(const std::string& original, const std::string& copy) override;
     Status CreateFolder(const std::string& path) override;
     Result<std::uint64_t> FreeSpace(const std::string& root) override;
 };

@@ -173,4 +173,31 @@ TEST_P(FileOperationsContract, ADriveTellsItsFreeSpace) {
     EXPECT_FALSE(Files().FreeSpace("?:\\").Ok());
 }
 
+TEST_P(FileOperationsContract, OneFileIsTheSameByEverySpellingOfItsPath) {
+    Write(In("a.txt"), "a");
+    Write(In("b.txt"), "a");
+    ASSERT_TRUE(Succeeded(Files().CreateFolder(In("folder"))));
+    const auto same = [this](const std::string& one, const std::string& other) {
+        const Result<bool> answer = Files().IsSameFile(In(one), In(other));
+        return answer.Ok() && answer.Value();
+    };
+    EXPECT_TRUE(same("a.txt", "a.txt"));
+    EXPECT_TRUE(same("a.txt", "A.TXT"));
+    EXPECT_TRUE(same("a.txt", "folder\\..\\a.txt"));
+    EXPECT_FALSE(same("a.txt", "b.txt"));
+    EXPECT_FALSE(Files().IsSameFile(In("a.txt"), In("gone.txt")).Ok());
+    EXPECT_FALSE(Files().IsSameFile(In("gone.txt"), In("a.txt")).Ok());
+}
+
+TEST_P(FileOperationsContract, AnOriginalIsDeletedUnlessItIsItsCopy) {
+    Write(In("a.txt"), "a");
+    Write(In("copy.txt"), "a");
+    EXPECT_FALSE(Files().DeleteOriginal(In("a.txt"), In("gone.txt")).Ok());
+    EXPECT_FALSE(Files().DeleteOriginal(In("a.txt"), In("A.TXT")).Ok());
+    EXPECT_EQ(Read(In("a.txt")), "a");
+    EXPECT_TRUE(Succeeded(Files().DeleteOriginal(In("a.txt"), In("copy.txt"))));
+    EXPECT_FALSE(Exists(In("a.txt")));
+    EXPECT_EQ(Read(In("copy.txt")), "a");
+}
+
 }  // namespace zentar

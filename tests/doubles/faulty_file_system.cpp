@@ -80,7 +80,18 @@ Status FaultyFileSystem::Replace(const std::string& from, const std::string& to)
 
 Status FaultyFileSystem::Copy(const std::string& from, const std::string& to, bool overwrite) {
     const Status begun = Begin("Copy " + from + " -> " + to);
-    return begun.Ok() ? inner_.Copy(from, to, overwrite) : begun;
+    if (begun.Ok())
+        return inner_.Copy(from, to, overwrite);
+    if (!killed_ && begun.Error() == FileError::NoSpace)
+        CopyHalf(from, to);
+    return begun;
+}
+
+void FaultyFileSystem::CopyHalf(const std::string& from, const std::string& to) {
+    const std::string bytes = WholeFile(from);
+    const auto file = inner_.OpenForWriting(to, WriteMode::CreateNew);
+    if (file.Ok())
+        IgnoreFailure(file.Value()->Write(bytes.substr(0, bytes.size() / 2)));
 }
 
 Result<bool> FaultyFileSystem::IsSameFile(const std::string& one, const std::string& other) {
@@ -97,6 +108,16 @@ Status FaultyFileSystem::Delete(const std::string& path) {
     const Status done = inner_.Delete(path);
     if (done.Ok())
         Forget(path);
+    return done;
+}
+
+Status FaultyFileSystem::DeleteOriginal(const std::string& original, const std::string& copy) {
+    const Status begun = Begin("DeleteOriginal " + original + " of " + copy);
+    if (!begun.Ok())
+        return begun;
+    const Status done = inner_.DeleteOriginal(original, copy);
+    if (done.Ok())
+        Forget(original);
     return done;
 }
 

@@ -40,11 +40,13 @@ class FaultyFileSystem : public FileSystem {
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
     Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;
+    Status DeleteOriginal(const std::string& original, const std::string& copy) override;
     Status CreateFolder(const std::string& path) override;
     Result<std::uint64_t> FreeSpace(const std::string& root) override;
 
     // Calls are numbered from 1, those on opened files among them. A failed call does not reach the
-    // inner file system, but a Write that fails with NoSpace has written half of its bytes.
+    // inner file system, but a Write or a Copy that fails with NoSpace has written half of its
+    // bytes.
     void FailAt(int call, FileError error);
     void FailFrom(int call, FileError error);
     // The program is killed at this call: neither it nor any later one reaches the inner file
@@ -79,6 +81,7 @@ class FaultyFileSystem : public FileSystem {
     void Forget(const std::string& path);
     void Moved(const std::string& from, const std::string& to);
     std::string WholeFile(const std::string& path);
+    void CopyHalf(const std::string& from, const std::string& to);
 
     FileSystem& inner_;
     std::vector<std::string> calls_;

@@ -213,15 +213,20 @@ Status MemoryFileSystem::CopyInto(const Place& source, const Place& target) {
     const Node copy = std::make_shared<MemoryNode>(target.parent->space);
     if (from.bytes.Length() > copy->space->Free() + stillTaken)
         return FileError::NoSpace;
-    copy->bytes = from.bytes;
-    copy->space->used += from.bytes.Length();
+    if (copiesStopHalfWay_) {
+        const std::string bytes = from.bytes.Text();
+        copy->bytes.Append(bytes.substr(0, bytes.size() / 2));
+    } else {
+        copy->bytes = from.bytes;
+    }
+    copy->space->used += copy->bytes.Length();
     copy->readOnly = from.readOnly;
     copy->hidden = from.hidden;
     copy->lastWrite = from.lastWrite;
     Put(target, copy);
     if (target.node)
         copy->name = target.node->name;
-    return {};
+    return copiesStopHalfWay_ ? Status(FileError::Other) : Status();
 }
 
 Result<bool> MemoryFileSystem::IsSameFile(const std::string& one, const std::string& other) {
@@ -250,6 +255,15 @@ Status MemoryFileSystem::Delete(const std::string& path) {
         return FileError::AccessDenied;
     TakeOut(place.Value());
     return {};
+}
+
+Status MemoryFileSystem::DeleteOriginal(const std::string& original, const std::string& copy) {
+    const Result<Node> kept = FindFile(copy);
+    const Result<Node> going = FindFile(original);
+    if (!kept.Ok())
+        return kept.Error();
+    return going.Ok() && going.Value() == kept.Value() ? Status(FileError::InUse)
+                                                       : Delete(original);
 }
 
 Status MemoryFileSystem::CreateFolder(const std::string& path) {

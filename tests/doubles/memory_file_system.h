@@ -34,6 +34,7 @@ class MemoryFileSystem : public FileSystem {
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
     Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;
+    Status DeleteOriginal(const std::string& original, const std::string& copy) override;
     Status CreateFolder(const std::string& path) override;
     Result<std::uint64_t> FreeSpace(const std::string& root) override;
 
@@ -50,6 +51,8 @@ class MemoryFileSystem : public FileSystem {
     // A file of zeros with `bytes` at `offset`, however large, without taking memory.
     void AddHugeFile(const std::string& path, std::uint64_t length, std::uint64_t offset,
                      std::string_view bytes);
+    // From now on a copy ends in the middle of the file, and says so.
+    void SetCopiesStopHalfWay(bool on = true) { copiesStopHalfWay_ = on; }
     void SetReadOnly(const std::string& path, bool on = true);
     // Windows copies nothing over a hidden file; otherwise it is as any other.
     void SetHidden(const std::string& path, bool on = true);
@@ -100,6 +103,7 @@ class MemoryFileSystem : public FileSystem {
                         std::map<std::string, std::string>& files);
 
     EventLog* log_;
+    bool copiesStopHalfWay_ = false;
     std::shared_ptr<TickingClock> clock_;
     std::map<std::string, Node> drives_;                        // by folded root
     std::map<std::string, std::shared_ptr<ReadRecord>> reads_;  // by folded path

@@ -93,6 +93,7 @@ class MemoryForm : public Form, private ControlHost {
 
     const FormTable& Table() const { return table_; }
     const ControlRow& Row(int id) { return Core(id).Row(); }
+    int TimerStarts(int id) { return TimerOf(id).Starts(); }
     std::string Tooltip(int id) { return Core(id).Tooltip(); }
     bool Shown() const { return shown_; }
     bool Closed() const { return closed_; }

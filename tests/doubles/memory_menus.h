@@ -32,13 +32,19 @@ class MemoryMenuEntry : public MenuEntry {
 class MemoryTimer : public Timer {
   public:
     void SetTick(std::function<void()> tick) override { tick_ = std::move(tick); }
-    void SetEnabled(bool enabled) override { enabled_ = enabled; }
+    void SetEnabled(bool enabled) override {
+        starts_ += !enabled_ && enabled ? 1 : 0;
+        enabled_ = enabled;
+    }
     bool Enabled() const override { return enabled_; }
+    // How often it began to run, each time with a whole interval before it.
+    int Starts() const { return starts_; }
 
     const std::function<void()>& Tick() const { return tick_; }
 
   private:
     bool enabled_ = false;
+    int starts_ = 0;
     std::function<void()> tick_;
 };
 

@@ -171,38 +171,61 @@ const std::string kOverwritten = "D:\\Remote\\duel.dm2";
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, DemoCommandsFault,
-    ::testing::Values(MenuCase("Delete", IDM_mnuDemosDelete, {kDemos + "duel.dm2"}),
-                      MenuCase("DeleteAll", IDM_mnuDemosDeleteAll,
-                               {kDemos + "duel.dm2", kDemos + "other.dm2"}),
-                      MenuCase("Rename", IDM_mnuDemosRename),
-                      MenuCase("RenameWithMap", IDM_mnuDemosRenameMap),
-                      MenuCase("Copy", IDM_mnuDemosCopy, {kOverwritten}),
-                      MenuCase("Move", IDM_mnuDemosMove, {kOverwritten}),
-                      CommandCase{"MoveOnOneDrive",
-                                  "Quake2",
-                                  [](OneRun& run) {
-                                      run.files.AddFolder("C:\\Best\\");
-                                      run.program->State().settings.Remote = "C:\\Best\\";
-                                      run.Pick(IDM_mnuDemosMove);
-                                  },
-                                  {}},
-                      CommandCase{"Install",
-                                  "Quake2",
-                                  [](OneRun& run) { run.Window().UserClick(IDC_cmdDemoInstaller); },
-                                  {}},
-                      CommandCase{"InstallQuake3",
-                                  "Quake3",
-                                  [](OneRun& run) { run.Window().UserClick(IDC_cmdDemoInstaller); },
-                                  {}},
-                      CommandCase{"PlayAndPutBack",
-                                  "Quake3",
-                                  [](OneRun& run) {
-                                      run.Pick(IDM_mnuDemosPlay);
-                                      if (run.Window().GetTimer(IDC_tmrQ3Game).Enabled()) {
-                                          run.Window().FireTimer(IDC_tmrQ3Game);
-                                      }
-                                  },
-                                  {}}),
+    ::testing::Values(
+        MenuCase("Delete", IDM_mnuDemosDelete, {kDemos + "duel.dm2"}),
+        MenuCase("DeleteAll", IDM_mnuDemosDeleteAll, {kDemos + "duel.dm2", kDemos + "other.dm2"}),
+        MenuCase("Rename", IDM_mnuDemosRename), MenuCase("RenameWithMap", IDM_mnuDemosRenameMap),
+        MenuCase("Copy", IDM_mnuDemosCopy, {kOverwritten}),
+        MenuCase("Move", IDM_mnuDemosMove, {kOverwritten}),
+        CommandCase{"MoveOnOneDrive",
+                    "Quake2",
+                    [](OneRun& run) {
+                        run.files.AddFolder("C:\\Best\\");
+                        run.program->State().settings.Remote = "C:\\Best\\";
+                        run.Pick(IDM_mnuDemosMove);
+                    },
+                    {}},
+        CommandCase{"MoveOverOneOnOneDrive",
+                    "Quake2",
+                    [](OneRun& run) {
+                        run.files.AddFile("C:\\Best\\duel.dm2", "of the same name");
+                        run.program->State().settings.Remote = "C:\\Best\\";
+                        run.Pick(IDM_mnuDemosMove);
+                    },
+                    {}},
+        CommandCase{"MoveToItself",
+                    "Quake2",
+                    [](OneRun& run) {
+                        run.files.AddDriveFor("S:\\", kDemos);
+                        run.program->State().settings.Remote = "S:\\";
+                        run.Pick(IDM_mnuDemosMove);
+                    },
+                    {}},
+        CommandCase{"InstallWhatIsThere",
+                    "Quake2",
+                    [](OneRun& run) {
+                        run.files.AddFile(kDemos + "new.dm2",
+                                          run.files.Contents("D:\\Unzipped\\new.dm2"));
+                        run.Window().UserClick(IDC_cmdDemoInstaller);
+                    },
+                    {}},
+        CommandCase{"Install",
+                    "Quake2",
+                    [](OneRun& run) { run.Window().UserClick(IDC_cmdDemoInstaller); },
+                    {}},
+        CommandCase{"InstallQuake3",
+                    "Quake3",
+                    [](OneRun& run) { run.Window().UserClick(IDC_cmdDemoInstaller); },
+                    {}},
+        CommandCase{"PlayAndPutBack",
+                    "Quake3",
+                    [](OneRun& run) {
+                        run.Pick(IDM_mnuDemosPlay);
+                        if (run.Window().GetTimer(IDC_tmrQ3Game).Enabled()) {
+                            run.Window().FireTimer(IDC_tmrQ3Game);
+                        }
+                    },
+                    {}}),
     [](const auto& command) { return std::string(command.param.name); });
 
 }  // namespace

@@ -69,6 +69,25 @@ TEST_F(FileCopyTest, AReadOnlyFilesCopyIsReadOnly) {
     EXPECT_TRUE(files_.IsReadOnly(kTo));
 }
 
+TEST_F(FileCopyTest, TheCopyIsOnTheDiskBeforeItGetsItsName) {
+    FaultyFileSystem watched(files_);
+    EXPECT_EQ(CopyFileWhole(watched, kFrom, kTo, 8, Existing::Keep), CopyOutcome::Whole);
+    const std::vector<std::string>& calls = watched.Calls();
+    const auto flush = std::find(calls.begin(), calls.end(), "Flush D:\\zentar-copy.tmp");
+    const auto rename =
+        std::find(calls.begin(), calls.end(), "Rename D:\\zentar-copy.tmp -> D:\\to.dm2");
+    ASSERT_NE(flush, calls.end());
+    EXPECT_LT(flush, rename);
+}
+
+TEST_F(FileCopyTest, TheUnfinishedCopyOfAnotherZentarIsNotTaken) {
+    files_.AddFile("D:\\zentar-copy.tmp", "anything");
+    files_.SetLocked("D:\\zentar-copy.tmp");
+    EXPECT_EQ(Copy(Existing::Keep), CopyOutcome::Missing);
+    EXPECT_FALSE(files_.Exists(kTo));
+    EXPECT_TRUE(files_.Exists("D:\\zentar-copy.tmp"));
+}
+
 TEST_F(FileCopyTest, KilledAtAnyCallTheOldFileOrTheNewOneIsThereWhole) {
     FaultyFileSystem sound(files_);
     EXPECT_EQ(CopyFileWhole(sound, kFrom, kTo, 8, Existing::Replace), CopyOutcome::Whole);

@@ -206,5 +206,25 @@ TEST_F(DeleteAll, OnesThatVanishedMeanwhileAreNothingToTell) {
     EXPECT_THAT(Names(), IsEmpty());
 }
 
+TEST_F(DeleteAll, WhileAnotherModIsBeingShownOnlyWhatIsListedGoes) {
+    state.settings.Expert = 1;
+    const std::string listed = state.current.DemoFolder;
+    const std::string next = "C:\\Games\\Quake2\\ctf\\demos\\";
+    os.files.AddFile(next + "a.dm2", "precious");
+    state.current.DemoFolder = next;  // the list follows in a moment
+    Pick("", IDM_mnuDemosDeleteAll);
+    EXPECT_EQ(os.files.Contents(next + "a.dm2"), "precious");
+    EXPECT_THAT(Names(listed), IsEmpty());
+}
+
+TEST_F(DemoDelete, WhileAnotherModIsBeingShownTheListedDemoGoes) {
+    state.settings.Expert = 1;
+    const std::string next = "C:\\Games\\Quake2\\ctf\\demos\\";
+    os.files.AddFile(next + "a.dm2", "precious");
+    state.current.DemoFolder = next;
+    Pick("a", IDM_mnuDemosDelete);
+    EXPECT_EQ(os.files.Contents(next + "a.dm2"), "precious");
+}
+
 }  // namespace
 }  // namespace zentar

@@ -125,6 +125,14 @@ TEST_P(DemoInstallation, NothingIsWrittenOutsideTheGamesFolder) {
     EXPECT_EQ(installed, "1 out of 9");
 }
 
+TEST_P(DemoInstallation, FoldersThatHoldNoModGetNoDemos) {
+    files.AddFolder(kQuake3Folder + "Docs\\");
+    Add("duel.dm3", DemoKind::Dm3, "docs");
+    EXPECT_EQ(Install3(), "0 out of 1");
+    EXPECT_THAT(files.Names(kQuake3Folder + "docs\\"), IsEmpty());
+    EXPECT_THAT(files.Names(from), ElementsAre("duel.dm3"));
+}
+
 TEST_P(DemoInstallation, AnotherDemoOfThatNameIsNeverReplaced) {
     Add("duel.dm2", DemoKind::Dm2, "ctf");
     files.AddFile(kQuake2Folder + "ctf\\demos\\duel.dm2", "precious");

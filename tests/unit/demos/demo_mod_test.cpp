@@ -40,6 +40,8 @@ TEST_F(DemoModTest, ABackslashBehindItDoesNotCount) {
 TEST_F(DemoModTest, AnOldQuake3DemoNamesItInTheServersSettings) {
     EXPECT_EQ(ModOf(MakeDemo(DemoKind::Dm3, {.mod = "osp"}), ReadQuake3Mod), "osp");
     EXPECT_EQ(ModOf(MakeDemo(DemoKind::Dm48, {.mod = "osp"}), ReadQuake3Mod), "osp");
+    EXPECT_EQ(ModOf(std::string(300'000, 'x') + "\\gamename\\far\\", ReadQuake3Mod), "far");
+    EXPECT_EQ(ModOf(std::string("\\gamename\\last\0more\\", 20), ReadQuake3Mod), "last");
     EXPECT_EQ(ModOf("a\\gamename\\first\\b\\gamename\\second\\", ReadQuake3Mod), "first");
 }
 

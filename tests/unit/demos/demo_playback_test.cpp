@@ -74,11 +74,11 @@ TEST_F(DemoPlay, Quake2GetsTheModAndTheFileAsTheyAre) {
     EXPECT_FALSE(Watching());
 }
 
-TEST_F(DemoPlay, AQuake3DemoOfEachGenerationGetsItsExecutable) {
+TEST_F(DemoPlay, ACompressedDemoGetsTheNewestQuake3) {
     UseQuake3();
     ExpectStart("quake3.exe", " +set fs_game osp +demo \"duel\"");
-    Pick("duel  ", IDM_mnuDemosPlay);  // the menu leaves Play as it was, which is off at first
-    os.shell.Verify();
+    PressOn("duel  ", Key::Enter);
+    EXPECT_FALSE(Watching());
 }
 
 TEST_F(DemoPlay, TheOldGenerationsGetTheirOldGames) {
@@ -291,6 +291,55 @@ TEST_F(DemoPlay, AVanishedOrUnreadableDemoIsNotPlayed) {
     form->GetListBox(IDC_lstDemos).SetFocus();
     form->UserKey(Key::Enter);
     EXPECT_THAT(Listed(), ElementsAre("b"));
+}
+
+TEST_F(DemoPlay, TheWatchBeginsAnewWithEachOldGame) {
+    UseQuake3();
+    for (int starts = 1; starts <= 2; ++starts) {
+        ExpectStart("quake3-117.exe", " +set fs_game osp +demo \"duel\"");
+        Pick("duel", IDM_mnuDemosPlay);
+        EXPECT_EQ(form->TimerStarts(IDC_tmrQ3Game), starts);
+    }
+}
+
+TEST_F(DemoPlay, AWatchGoesOnWhenTheNextOldGameCannotBePrepared) {
+    UseQuake3();
+    ExpectStart("quake3-117.exe", " +set fs_game osp +demo \"duel\"");
+    Pick("duel", IDM_mnuDemosPlay);
+    os.files.AddFile(kBase + "pak4.pk3", "reinstalled");
+    os.windows.Expect(
+        Failure("Zentar cannot play back this Quake 3 demo at this time.\r\n\r\nThe file "
+                "\"pak4.pk3\" must not be there while Quake 3\r\nv1.17 runs, and it couldn't be "
+                "renamed.\r\n\r\nThere already is a \"pak4.zentar\" beside it."));
+    Pick("duel", IDM_mnuDemosPlay);
+    EXPECT_TRUE(Watching());
+    EXPECT_EQ(os.files.Contents(kBase + "pak4.pk3"), "reinstalled");
+    EXPECT_EQ(os.files.Contents(kBase + "pak4.zentar"), "pak4.pk3");
+}
+
+TEST_F(DemoPlay, PacksComeBackToEveryFolderWhereTheyWereHidden) {
+    UseQuake3();
+    ExpectStart("quake3-117.exe", " +set fs_game osp +demo \"duel\"");
+    Pick("duel", IDM_mnuDemosPlay);
+    const std::string other = "D:\\Quake3\\baseq3\\";
+    os.files.AddFile(other + "pak4.pk3", "other pak4");
+    state.games[2].BaseModPath = other;
+    state.current.CurrentBasePath = other;
+    ExpectStart("quake3-117.exe", " +set fs_game osp +demo \"duel\"");
+    Pick("duel", IDM_mnuDemosPlay);
+    EXPECT_THAT(os.files.Names(other), ElementsAre("pak4.zentar"));
+    Tick();
+    EXPECT_THAT(os.files.Names(other), ElementsAre("pak4.pk3"));
+    EXPECT_THAT(Paks(), ElementsAre("pak0.pk3", "pak4.pk3", "pak5.pk3", "pak6.pk3"));
+}
+
+TEST_F(DemoPlay, WhileAnotherModIsBeingShownNothingIsPlayed) {
+    UseQuake3();
+    Select("duel  ");
+    state.current.DemoFolder = "C:\\Games\\Quake3\\baseq3\\demos\\";
+    form->GetListBox(IDC_lstDemos).SetFocus();
+    form->UserKey(Key::Enter);
+    EXPECT_THAT(os.shell.Started(), IsEmpty());
 }
 
 }  // namespace

@@ -225,5 +225,43 @@ TEST_F(DemoRename, WithItsMapNoOtherFileIsRenamedOver) {
     EXPECT_EQ(os.files.Contents(PathOf("[q2dm1]_duel.dm2")), "precious");
 }
 
+TEST_F(DemoRename, AHostileMapIsRefusedWithOneMessage) {
+    AddDemo("hostile.dm2", DemoKind::Dm2, {.map = std::string(5000, '?')});
+    tab->RefreshDemoList();
+    os.windows.Expect(Illegal());
+    Pick("hostile", IDM_mnuDemosRenameMap);
+    EXPECT_EQ(Selected(), "hostile");
+}
+
+TEST_F(DemoRename, AMapTooLongForANameIsRefused) {
+    AddDemo("long.dm2", DemoKind::Dm2, {.map = std::string(5000, 'm')});
+    tab->RefreshDemoList();
+    os.windows.Expect(
+        Failure("Can't rename due to Windows not allowing that name.\r\n\r\n"
+                "It may be too long, or be a name that Windows\r\n"
+                "keeps for itself (eg. con)."));
+    Pick("long", IDM_mnuDemosRenameMap);
+    EXPECT_EQ(Selected(), "long");
+}
+
+TEST_F(DemoRename, AnEndlessTypedNameIsRefusedOnce) {
+    ExpectBox("duel", std::string(30'000, '?'));
+    os.windows.Expect(
+        Failure("Can't rename due to Windows not allowing that name.\r\n\r\n"
+                "It may be too long, or be a name that Windows\r\n"
+                "keeps for itself (eg. con)."));
+    Pick("duel", IDM_mnuDemosRename);
+}
+
+TEST_F(DemoRename, WithItsMapAVanishedDemoIsTold) {
+    os.windows.Expect(Failure("This demo is no longer in its folder."));
+    form->SetPopupUser([this](int) {
+        os.files.Remove(PathOf("duel.dm2"));
+        form->UserPickMenu(IDM_mnuDemosRenameMap);
+    });
+    RightClick("duel");
+    EXPECT_THAT(Listed(), ElementsAre("other"));
+}
+
 }  // namespace
 }  // namespace zentar

@@ -219,13 +219,18 @@ TEST_F(DemoTransferTest, NorDoesOneThatIsItUnderAnotherName) {
 }
 
 TEST_F(DemoTransferTest, ADemoThatVanishedIsToldAndLeavesTheList) {
-    os.windows.Expect(Failure("This demo is no longer in its folder."));
-    form->SetPopupUser([this](int) {
-        os.files.Remove(PathOf("duel.dm2"));
-        form->UserPickMenu(IDM_mnuDemosCopy);
-    });
-    RightClick("duel");
-    EXPECT_THAT(Listed(), ElementsAre("other"));
+    for (const int command : {IDM_mnuDemosCopy, IDM_mnuDemosMove}) {
+        AddDemo("duel.dm2", bytes_);
+        tab->RefreshDemoList();
+        os.windows.Expect(Failure("This demo is no longer in its folder."));
+        form->SetPopupUser([this, command](int) {
+            os.files.Remove(PathOf("duel.dm2"));
+            form->UserPickMenu(command);
+        });
+        RightClick("duel");
+        EXPECT_THAT(Listed(), ElementsAre("other"));
+        EXPECT_THAT(os.files.Names(kRemote), IsEmpty());
+    }
 }
 
 TEST_F(DemoTransferTest, AFolderUnpluggedBetweenTestAndCopyIsTold) {
@@ -291,6 +296,87 @@ TEST_F(DemoTransferTest, EachQuake3DemoGoesUnderItsOwnExtension) {
     Pick("duel  ", IDM_mnuDemosMove);
     EXPECT_THAT(os.files.Names(kRemote), ElementsAre("duel.dm_48", "duel.dm_66"));
     EXPECT_THAT(Names(), ElementsAre("duel.dm_48"));
+}
+
+TEST_F(DemoTransferTest, AHalfCopyIsDeletedAndTheDemoStays) {
+    os.files.SetCopiesStopHalfWay();
+    os.files.AddFile(kRemote + "duel.dm2", "old");
+    const Message overwrite = Confirm("Demo already exists in Remote Folder -- Overwrite?");
+    os.windows.Expect(overwrite, Answer::Yes);
+    os.windows.Expect(
+        Critical("Demo could not be completely copied\r\n"
+                 "The partial copy has been deleted as a result."));
+    Copy();
+    os.windows.Expect(overwrite, Answer::Yes);
+    os.windows.Expect(
+        Critical("Demo could not be completely moved\r\n"
+                 "The partial move has been deleted and the original demo remains in its\r\n"
+                 "rocket sub-folder."));
+    Move();
+    EXPECT_EQ(os.files.Contents(PathOf("duel.dm2")), bytes_);
+    EXPECT_EQ(There(), "old");
+    EXPECT_THAT(os.files.Names(kRemote), ElementsAre("duel.dm2"));
+    EXPECT_THAT(os.windows.Sounds(), IsEmpty());
+}
+
+TEST_F(DemoTransferTest, AnOriginalThatCannotBeDeletedIsTold) {
+    os.files.SetWritingDenied(state.current.DemoFolder);
+    os.windows.Expect(
+        Critical("Demo was copied to Remote Folder, but could not be deleted\r\n"
+                 "and so the original demo still remains in its rocket sub-folder."));
+    Move();
+    EXPECT_EQ(There(), bytes_);
+    EXPECT_TRUE(IsHere());
+    EXPECT_EQ(Selected(), "duel");
+    EXPECT_THAT(os.windows.Sounds(), IsEmpty());
+}
+
+TEST_F(DemoTransferTest, ADemoRecordedInItsPlaceMeanwhileIsNotDeleted) {
+    const std::string recorded = samples::MakeDemo(DemoKind::Dm2, {.levelName = "A new one"});
+    os.files.SetReadOnly(PathOf("duel.dm2"));
+    os.windows.Expect(ReadOnly("This demo couldn't be deleted due to being set as read-only.\r\n"
+                               "Would you like me to remove this setting to force the deletion?"),
+                      Answer::Yes, [&] { AddDemo("duel.dm2", recorded); });
+    os.windows.Expect(
+        Critical("Demo was copied to Remote Folder, but could not be deleted\r\n"
+                 "and so the original demo still remains in its rocket sub-folder."));
+    Move();
+    EXPECT_EQ(There(), bytes_);
+    EXPECT_EQ(os.files.Contents(PathOf("duel.dm2")), recorded);
+}
+
+TEST_F(DemoTransferTest, ADemoThatCameToTheFreePlaceIsNotDeleted) {
+    UseRemote("C:\\Best\\");
+    form->SetPopupUser([this](int) {
+        DuringPumpNumber(2, [this] { os.files.AddFile(PathOf("duel.dm2"), "another demo"); });
+        form->UserPickMenu(IDM_mnuDemosMove);
+    });
+    RightClick("duel");
+    EXPECT_EQ(There(), bytes_);
+    EXPECT_EQ(os.files.Contents(PathOf("duel.dm2")), "another demo");
+}
+
+TEST_F(DemoTransferTest, AFileThatIsNoDemoIsCopiedWithoutBeingAskedAboutAgain) {
+    AddDemo("list.dm2", "bread and butter");
+    tab->RefreshDemoList();
+    os.windows.Expect(Offer("Quake2"), Answer::No);
+    Pick("list", IDM_mnuDemosCopy);
+    EXPECT_EQ(os.files.Contents(kRemote + "list.dm2"), "bread and butter");
+}
+
+TEST_F(DemoTransferTest, ARemoteFolderMayBeTypedWithSlashes) {
+    state.settings.Remote = "D:/Remote/";
+    os.files.SetFreeSpace("D:\\", 10);
+    os.windows.Expect(
+        Failure("No space on your D drive to move this demo!\r\n\r\n"
+                "Demo's file size (bytes):\t" +
+                GroupDigits(bytes_.size(), ",") + "\r\nDisk space free (bytes):\t10"));
+    Move();
+    EXPECT_TRUE(IsHere());
+    state.settings.Remote = "c:/Best/";
+    os.files.AddFolder("C:\\Best\\");
+    Move();
+    EXPECT_EQ(os.files.Contents("C:\\Best\\duel.dm2"), bytes_);
 }
 
 }  // namespace
