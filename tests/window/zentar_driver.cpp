@@ -83,15 +83,17 @@ bool ZentarDriver::Visible(int id) const {
 }
 
 void ZentarDriver::Resize(SIZE size) const {
+    RECT area{};
     const bool done = Eventually([&] {
         SetWindowPos(main_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
         Settle();
-        RECT area{};
         GetWindowRect(main_, &area);
         return area.right - area.left == size.cx && area.bottom - area.top == size.cy;
     });
     if (!done) {
-        throw std::runtime_error("the window does not take the size");
+        throw std::runtime_error("the window stays " + std::to_string(area.right - area.left) +
+                                 " x " + std::to_string(area.bottom - area.top) + " instead of " +
+                                 std::to_string(size.cx) + " x " + std::to_string(size.cy));
     }
 }
 
