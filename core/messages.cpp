@@ -1,5 +1,6 @@
 #include "core/messages.h"
 
+#include "core/message_kinds.h"
 #include "core/program_info.h"
 #include "core/text.h"
 
@@ -10,7 +11,7 @@ std::string LocateGameFolder(const GameId& game) {
 }
 
 Message NotTheGameFolder(const GameId& game) {
-    return {"Error", "You did not select your " + game + " folder!", MessageIcon::Exclamation};
+    return Failure("You did not select your " + game + " folder!");
 }
 
 Message GameFolderUnknown(const GameId& game) {
@@ -59,11 +60,9 @@ Message CannotExitYet() {
 }
 
 Message IllegalCharacters() {
-    return {"Error",
-            Lines({"Can't rename due to illegal characters.", "",
-                   "Filenames cannot have these characters",
-                   R"(in them:   "   \   /   |   <   >   :   ?   *)"}),
-            MessageIcon::Exclamation};
+    return Failure(Lines({"Can't rename due to illegal characters.", "",
+                          "Filenames cannot have these characters",
+                          R"(in them:   "   \   /   |   <   >   :   ?   *)"}));
 }
 
 std::string LocateRemoteFolder() { return "Please specify a folder to be the Remote Folder:"; }

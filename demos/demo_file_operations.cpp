@@ -1,6 +1,8 @@
 #include "demos/demo_file_operations.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "core/file_name.h"

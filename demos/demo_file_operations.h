@@ -4,14 +4,11 @@
 // A demo is never renamed over another file.
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 
 #include "core/program_state.h"
 #include "demos/demo_list_view.h"
 #include "platform/platform.h"
-#include "platform/result.h"
 
 namespace zentar {
 

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
+#include "platform/win32/units.h"
+
 namespace zentar {
 namespace {
-
-// From this height on, in units, a caption has room for a second line.
-constexpr int kTwoLines = 28;
 
 DWORD Wrapping(const ControlRow& row) { return row.rect.height < kTwoLines ? 0 : BS_MULTILINE; }
 

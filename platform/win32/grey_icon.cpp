@@ -3,37 +3,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
+
+#include "platform/win32/pixel_image.h"
 
 namespace zentar {
 namespace {
 
-using Pixel = std::uint32_t;  // blue in the lowest byte, alpha in the highest
-
-struct Image {
-    UniqueBitmap bitmap;
-    std::span<Pixel> pixels;
-};
-
-Image MakeImage(SIZE size) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    Image image{UniqueBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)),
-                {}};
-    if (image.bitmap) {
-        const auto count = static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy);
-        image.pixels = {static_cast<Pixel*>(bits), count};
-    }
-    return image;
-}
-
-void DrawOver(const Image& image, int stockBrush, HICON icon, SIZE size) {
+void DrawOver(const PixelImage& image, int stockBrush, HICON icon, SIZE size) {
     const UniqueMemoryContext context(CreateCompatibleDC(nullptr));
     const HGDIOBJ before = SelectObject(context.Get(), image.bitmap.Get());
     const RECT all{0, 0, size.cx, size.cy};
@@ -62,8 +39,8 @@ Pixel Grey(Pixel overBlack, Pixel overWhite) {
 }  // namespace
 
 UniqueIcon GreyIcon(HICON icon, SIZE size) {
-    const Image overBlack = MakeImage(size);
-    const Image overWhite = MakeImage(size);
+    const PixelImage overBlack = MakePixelImage(size);
+    const PixelImage overWhite = MakePixelImage(size);
     // The transparency is in the pixels; the mask that every icon has as well hides nothing.
     const auto width = static_cast<std::size_t>(size.cx);
     const auto height = static_cast<std::size_t>(size.cy);

@@ -1,10 +1,9 @@
 #include "platform/win32/label.h"
 
+#include "platform/win32/units.h"
+
 namespace zentar {
 namespace {
-
-// From this height on, in units, a label has room for a second line.
-constexpr int kTwoLines = 28;
 
 DWORD LabelStyle(const ControlRow& row) {
     // SS_NOTIFY makes the mouse see the label at all, for its tooltip.

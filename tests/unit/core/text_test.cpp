@@ -63,5 +63,19 @@ TEST(LinesTest, AreJoinedByCrLf) {
     EXPECT_EQ(Lines({"", "a"}), "\r\na");
 }
 
+TEST(TrimBlanksTest, OnlyBlanksAroundATextGo) {
+    EXPECT_EQ(TrimBlanks("  a b  "), "a b");
+    EXPECT_EQ(TrimBlanks("\ta\t"), "\ta\t");
+    EXPECT_EQ(TrimBlanks("   "), "");
+    EXPECT_EQ(TrimBlanks(""), "");
+}
+
+TEST(EndsWithAnyCaseTest, TheCaseOfTheTextDoesNotMatter) {
+    EXPECT_TRUE(EndsWithAnyCase("DUEL.DM2", ".dm2"));
+    EXPECT_TRUE(EndsWithAnyCase(".dm2", ".dm2"));
+    EXPECT_FALSE(EndsWithAnyCase("dm2", ".dm2"));
+    EXPECT_FALSE(EndsWithAnyCase("duel.dm2!", ".dm2"));
+}
+
 }  // namespace
 }  // namespace zentar

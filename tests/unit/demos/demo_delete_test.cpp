@@ -120,11 +120,7 @@ TEST_F(DemoDelete, ALockedDemoStaysAndTheUserIsTold) {
 
 TEST_F(DemoDelete, EachQuake3ExtensionIsDeletedForItsOwnEntry) {
     state.settings.Expert = 1;
-    Use(kQuake3, "baseq3");
-    AddDemo("duel.dm3", DemoKind::Dm3, {});
-    AddDemo("duel.dm_48", DemoKind::Dm48, {});
-    AddDemo("duel.dm_66", DemoKind::Dm66, {});
-    tab->RefreshDemoList();
+    UseQuake3Demos();
     Pick("duel ", IDM_mnuDemosDelete);
     EXPECT_THAT(Names(), ElementsAre("duel.dm3", "duel.dm_66"));
     Pick("duel  ", IDM_mnuDemosDelete);
@@ -165,11 +161,7 @@ TEST_F(DeleteAll, DemosThatTheFilterHidesStay) {
 
 TEST_F(DeleteAll, AllThreeQuake3ExtensionsGo) {
     state.settings.Expert = 1;
-    Use(kQuake3, "baseq3");
-    AddDemo("duel.dm3", DemoKind::Dm3, {});
-    AddDemo("duel.dm_48", DemoKind::Dm48, {});
-    AddDemo("duel.dm_66", DemoKind::Dm66, {});
-    tab->RefreshDemoList();
+    UseQuake3Demos();
     Pick("", IDM_mnuDemosDeleteAll);
     EXPECT_THAT(Names(), IsEmpty());
 }

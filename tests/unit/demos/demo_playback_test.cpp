@@ -18,16 +18,12 @@ class DemoPlay : public DemosTabTest {
     DemoPlay() { state.settings.Expert = 1; }
 
     void UseQuake3() {
-        Use(kQuake3, "osp");
+        UseQuake3Demos("osp");
         AddExecutable("quake3-117.exe", 852'025);
         AddExecutable("quake3-127h.exe", 880'640);
         for (const char* pak : {"pak0.pk3", "pak4.pk3", "pak5.pk3", "pak6.pk3"}) {
             os.files.AddFile(kBase + pak, pak);
         }
-        AddDemo("duel.dm3", DemoKind::Dm3, {.map = "q3dm17"});
-        AddDemo("duel.dm_48", DemoKind::Dm48, {.map = "q3dm6"});
-        AddDemo("duel.dm_66", DemoKind::Dm66, {});
-        tab->RefreshDemoList();
     }
 
     void AddExecutable(const std::string& name, std::uint64_t length) {

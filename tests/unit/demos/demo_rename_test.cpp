@@ -19,14 +19,6 @@ class DemoRename : public DemosTabTest {
         tab->RefreshDemoList();
     }
 
-    void UseQuake3Demos() {
-        Use(kQuake3, "baseq3");
-        AddDemo("duel.dm3", DemoKind::Dm3, {.map = "q3dm17"});
-        AddDemo("duel.dm_48", DemoKind::Dm48, {.map = "q3dm6"});
-        AddDemo("duel.dm_66", DemoKind::Dm66, {});
-        tab->RefreshDemoList();
-    }
-
     void ExpectBox(const std::string& name, std::optional<std::string> answer) {
         os.windows.ExpectText(
             {"Rename Demo", "Enter new name for \"" + name + "\".\r\n(Do not type the extension).",

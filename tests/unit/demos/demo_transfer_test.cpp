@@ -288,14 +288,11 @@ TEST_F(DemoTransferTest, ACommandAskedForDuringAnotherIsNotRun) {
 }
 
 TEST_F(DemoTransferTest, EachQuake3DemoGoesUnderItsOwnExtension) {
-    Use(kQuake3, "baseq3");
-    AddDemo("duel.dm_48", DemoKind::Dm48, {});
-    AddDemo("duel.dm_66", DemoKind::Dm66, {});
-    tab->RefreshDemoList();
+    UseQuake3Demos();
     Pick("duel ", IDM_mnuDemosCopy);
     Pick("duel  ", IDM_mnuDemosMove);
     EXPECT_THAT(os.files.Names(kRemote), ElementsAre("duel.dm_48", "duel.dm_66"));
-    EXPECT_THAT(Names(), ElementsAre("duel.dm_48"));
+    EXPECT_THAT(Names(), ElementsAre("duel.dm3", "duel.dm_48"));
 }
 
 TEST_F(DemoTransferTest, AHalfCopyIsDeletedAndTheDemoStays) {

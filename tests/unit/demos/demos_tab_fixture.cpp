@@ -78,6 +78,15 @@ void DemosTabTest::AddDemo(const std::string& name, samples::DemoKind kind,
     AddDemo(name, samples::MakeDemo(kind, contents));
 }
 
+void DemosTabTest::UseQuake3Demos(const std::string& mod) {
+    using samples::DemoKind;
+    Use(kQuake3, mod);
+    AddDemo("duel.dm3", DemoKind::Dm3, {.map = "q3dm17"});
+    AddDemo("duel.dm_48", DemoKind::Dm48, {.map = "q3dm6"});
+    AddDemo("duel.dm_66", DemoKind::Dm66, {});
+    tab->RefreshDemoList();
+}
+
 void DemosTabTest::RightClick(const std::string& entry) {
     form->UserRightClick(IDC_lstDemos, IndexOf(entry));
 }

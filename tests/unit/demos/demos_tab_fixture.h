@@ -26,6 +26,8 @@ class DemosTabTest : public testing::Test {
     void AddDemo(const std::string& name, const std::string& bytes);
     void AddDemo(const std::string& name, samples::DemoKind kind,
                  const samples::DemoContents& contents);
+    // "duel" in each of the three Quake 3 generations, the current one of the base mod or another.
+    void UseQuake3Demos(const std::string& mod = "baseq3");
     std::string PathOf(const std::string& name) const { return state.current.DemoFolder + name; }
 
     // The user.

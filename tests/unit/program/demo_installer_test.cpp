@@ -23,6 +23,7 @@ class DemoInstallerTest : public ProgramTest {
         Window().UserClick(IDC_cmdDemoInstaller);
     }
 
+    bool pumped = false;
     bool Enabled(int id) { return Window().AnyControl(id).Enabled(); }
 };
 
@@ -56,6 +57,11 @@ TEST_F(DemoInstallerTest, IsOfNoUseForQuake1) {
     }
 }
 
+TEST_F(DemoInstallerTest, WithoutAGameItDoesNothing) {
+    StartWith("Quake4");
+    Window().UserClick(IDC_cmdDemoInstaller);
+}
+
 TEST_F(DemoInstallerTest, CancellingThePickerIsSilent) {
     StartWith("Quake2");
     Pick("Quake2", std::nullopt);
@@ -66,7 +72,12 @@ TEST_F(DemoInstallerTest, InstallsAFolderAndListsWhatCameToTheMod) {
     os.files.AddFile("D:\\Unzipped\\new.dm2", Demo(samples::DemoKind::Dm2, "q2dm8"));
     os.windows.Expect(
         {"Done", "Number of demos successfully installed: 1 out of 1.", MessageIcon::Information});
+    os.windows.SetDuringPump([this] {
+        pumped = true;
+        EXPECT_EQ(os.windows.CurrentPointer(), Pointer::Hourglass);
+    });
     Pick("Quake2", "D:\\Unzipped");
+    EXPECT_TRUE(pumped);
     EXPECT_THAT(Demos(), ElementsAre("Duel", "edge", "new"));
     EXPECT_EQ(os.windows.CurrentPointer(), Pointer::Default);
 }

@@ -33,6 +33,7 @@ TEST_F(StartupTest, TheStepsComeInTheirOrder) {
         "OpenForReading c:\\program files\\zentar\\zentar.ini",
         "optGameQuake2.SetSelected(true)",
         "lstDemoFilter.SetItems(60)",
+        "cmdDemoInstaller.SetEnabled(true)",
         "labDemoVersion.SetVisible(false)",
         "Pump",
         "Enumerate C:\\Games\\Quake2\\",

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "ui/layout.h"
+#include "ui/resource.h"
 
 namespace zentar {
 namespace {
@@ -124,6 +125,15 @@ TEST(FormTablesTogetherTest, NoTwoEntriesOfAMenuShareAMnemonic) {
         if (mark != std::string::npos) {
             const char letter = static_cast<char>(std::tolower(caption[mark + 1]));
             EXPECT_TRUE(seen.emplace(row.parent, letter).second) << caption;
+        }
+    }
+}
+
+TEST(FormTablesTogetherTest, AGameIsLookedAfterEveryThreeSeconds) {
+    for (const ControlRow& row : MainWindowTable().controls) {
+        if (row.kind == ControlKind::Timer) {
+            EXPECT_EQ(row.id, IDC_tmrQ3Game);
+            EXPECT_EQ(row.interval, 3000);
         }
     }
 }
