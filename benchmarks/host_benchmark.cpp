@@ -9,9 +9,9 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
-#include <map>
 
 #include "benchmarks/posix_file_system.h"
+#include "benchmarks/ratio_reporter.h"
 #include "benchmarks/sample_folders.h"
 #include "demos/demo_bytes.h"
 #include "demos/demo_header.h"
@@ -93,36 +93,6 @@ void BareBlocks(benchmark::State& state) {
         }
     }
 }
-
-// Prints the usual lines, and in the end the best time of each benchmark against its yardstick's.
-class RatioReporter : public benchmark::ConsoleReporter {
-  public:
-    RatioReporter() : ConsoleReporter(OO_Tabular) {}
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& run : runs) {
-            if (run.run_type == Run::RT_Iteration) {
-                Note(run.run_name.function_name, run.GetAdjustedRealTime());
-            }
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-    void PrintRatio(const std::string& what, const std::string& ours, const std::string& yardstick,
-                    double target) const {
-        const double mine = best_.at(ours);
-        const double other = best_.at(yardstick);
-        std::printf("%-45s %8.1f ms %8.1f ms  ratio %.2f (target %.1f)\n", what.c_str(), mine,
-                    other, mine / other, target);
-    }
-
-  private:
-    void Note(const std::string& name, double time) {
-        const auto known = best_.find(name);
-        if (known == best_.end() || time < known->second) {
-            best_[name] = time;
-        }
-    }
-    std::map<std::string, double> best_;
-};
 
 std::string RipgrepName(const std::string& how, const Case& one) {
     return "rg " + how + ": " + one.name;

@@ -7,9 +7,14 @@
 
 namespace zentar::benchmarks {
 
-inline double BestMilliseconds(const std::function<void()>& work, int runs = 9) {
+// `prepare` runs before each run and does not count.
+inline double BestMilliseconds(const std::function<void()>& work, int runs = 9,
+                               const std::function<void()>& prepare = {}) {
     double best = 1e300;
     for (int run = 0; run < runs; ++run) {
+        if (prepare) {
+            prepare();
+        }
         const auto start = std::chrono::steady_clock::now();
         work();
         const std::chrono::duration<double, std::milli> took =

@@ -3,7 +3,8 @@
 namespace zentar {
 namespace {
 
-Status WriteAndClose(FileSystem& files, const std::string& path, std::string_view bytes) {
+Status WriteAndClose(FileSystem& files, const std::string& path, std::string_view bytes,
+                     Durability durability) {
     Result<std::unique_ptr<WritableFile>> file = files.OpenForWriting(path, WriteMode::Truncate);
     if (!file.Ok()) {
         return file.Error();
@@ -11,14 +12,17 @@ Status WriteAndClose(FileSystem& files, const std::string& path, std::string_vie
     if (Status written = file.Value()->Write(bytes); !written.Ok()) {
         return written;
     }
-    if (Status flushed = file.Value()->Flush(); !flushed.Ok()) {
-        return flushed;
+    if (durability == Durability::Flushed) {
+        if (Status flushed = file.Value()->Flush(); !flushed.Ok()) {
+            return flushed;
+        }
     }
     return file.Value()->Close();
 }
 
-Status WriteChecked(FileSystem& files, const std::string& path, std::string_view bytes) {
-    if (Status written = WriteAndClose(files, path, bytes); !written.Ok()) {
+Status WriteChecked(FileSystem& files, const std::string& path, std::string_view bytes,
+                    Durability durability) {
+    if (Status written = WriteAndClose(files, path, bytes, durability); !written.Ok()) {
         return written;
     }
     const Result<FileInfo> info = files.Info(path);
@@ -30,9 +34,10 @@ Status WriteChecked(FileSystem& files, const std::string& path, std::string_view
 
 }  // namespace
 
-Status ReplaceFileContents(FileSystem& files, const std::string& path, std::string_view bytes) {
+Status ReplaceFileContents(FileSystem& files, const std::string& path, std::string_view bytes,
+                           Durability durability) {
     const std::string temporary = path + ".new";
-    Status done = WriteChecked(files, temporary, bytes);
+    Status done = WriteChecked(files, temporary, bytes, durability);
     if (done.Ok()) {
         done = files.Replace(temporary, path);
     }

@@ -20,16 +20,6 @@ void Remove(FileSystem& files, const std::string& unfinished) {
     IgnoreFailure(files.Delete(unfinished));
 }
 
-// A power cut after the original's deletion must not cost the copy. A read-only copy cannot be
-// opened for this, and is left to the system.
-bool IsOnDisk(FileSystem& files, const std::string& path, bool readOnly) {
-    if (readOnly) {
-        return true;
-    }
-    const auto file = files.OpenForWriting(path, WriteMode::Append);
-    return file.Ok() && file.Value()->Flush().Ok() && file.Value()->Close().Ok();
-}
-
 }  // namespace
 
 CopyOutcome CopyFileWhole(FileSystem& files, const std::string& from, const std::string& to,
@@ -53,6 +43,7 @@ CopyOutcome CopyFileWhole(FileSystem& files, const std::string& from, const std:
         Remove(files, unfinished);
         return CopyOutcome::Partial;
     }
+    // A power cut after the original's deletion must not cost the copy.
     if (!IsOnDisk(files, unfinished, copy.Value().readOnly)) {
         Remove(files, unfinished);
         return CopyOutcome::Missing;
@@ -64,6 +55,14 @@ CopyOutcome CopyFileWhole(FileSystem& files, const std::string& from, const std:
     }
     Remove(files, unfinished);
     return named.Error() == FileError::AlreadyExists ? CopyOutcome::Exists : CopyOutcome::Missing;
+}
+
+bool IsOnDisk(FileSystem& files, const std::string& path, bool readOnly) {
+    if (readOnly) {
+        return true;
+    }
+    const auto file = files.OpenForWriting(path, WriteMode::Append);
+    return file.Ok() && file.Value()->Flush().Ok() && file.Value()->Close().Ok();
 }
 
 Result<bool> HoldSameBytes(FileSystem& files, const std::string& one, const std::string& other) {

@@ -22,6 +22,10 @@ enum class Existing : std::uint8_t { Keep, Replace };
 CopyOutcome CopyFileWhole(FileSystem& files, const std::string& from, const std::string& to,
                           std::uint64_t length, Existing existing);
 
+// Whether a file's content has come through to the disk, so that it outlives a power cut. A
+// read-only file cannot be opened for this, and is left to the system.
+bool IsOnDisk(FileSystem& files, const std::string& path, bool readOnly);
+
 // Whether two files hold the same bytes.
 Result<bool> HoldSameBytes(FileSystem& files, const std::string& one, const std::string& other);
 

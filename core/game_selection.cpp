@@ -60,8 +60,10 @@ void GameSelection::RefreshGame() {
     }
     modWasSelected_ = false;
     RefreshModList();
-    // Selecting the mod has listed its demos; reading the folder a second time would show the same.
+    // Selecting the mod has listed its files; reading the folders a second time would show the
+    // same.
     if (!modWasSelected_) {
+        followers_.RefreshScreenshotList();
         followers_.RefreshDemoList();
     }
 }
@@ -134,6 +136,7 @@ void GameSelection::lstMods_Click() {
 
 void GameSelection::SelectMod(const std::string& mod) {
     modWasSelected_ = true;
+    followers_.ResetPreviewCaption();
     const GameInfo& info = *state_.Info();
     GameState& game = *state_.Game();
     state_.current.SelectedMod = mod;
@@ -141,6 +144,10 @@ void GameSelection::SelectMod(const std::string& mod) {
     const std::string modFolder = game.GameFolder + mod + "\\";
     state_.current.ScreenshotFolder = modFolder + std::string(info.screenshotFolder);
     state_.current.DemoFolder = modFolder + std::string(info.demoFolder);
+    followers_.RefreshScreenshotList();
+    if (state_.current.SelectedMod != mod) {
+        return;  // another one was picked meanwhile, and its files are listed
+    }
     if (!controls_.chkShowAllDemos.Checked() && state_.settings.AutoShowAll == 1) {
         controls_.chkShowAllDemos.SetChecked(true);  // its own procedure then lists the demos
     } else {

@@ -20,6 +20,9 @@ class GameFollowers {
     // The demo installer says what it installs for the game, if anything.
     virtual void ArrangeDemoInstaller(const GameInfo& game) = 0;
     virtual void ArrangeDemoProperties(const GameInfo& game) = 0;
+    // The caption of the view mode is as it is at rest.
+    virtual void ResetPreviewCaption() = 0;
+    virtual void RefreshScreenshotList() = 0;
     virtual void RefreshDemoList() = 0;
 };
 

@@ -28,9 +28,12 @@ SettingRow NumberRow(std::string key, std::int32_t& held) {
 }
 
 // Anything but "0" means previews.
-SettingRow PreviewRow(bool& preview) {
-    return {"Preview=", [&preview](std::string_view value) { preview = value != "0"; },
-            [&preview] { return preview ? "1" : "0"; }};
+SettingRow PreviewRow(OptionButton& preview, OptionButton& real) {
+    return {"Preview=",
+            [&preview, &real](std::string_view value) {
+                (value == "0" ? real : preview).SetSelected(true);
+            },
+            [&real] { return real.Selected() ? "0" : "1"; }};
 }
 
 SettingRow CheckBoxRow(std::string key, CheckBox& box) {
@@ -62,7 +65,8 @@ SettingRow GameTextRow(std::string key, TextBox& box) {
             [&box] { return Utf8ToGameText(box.Text()); }};
 }
 
-void AppendGameRows(std::vector<SettingRow>& rows, ProgramState& state) {
+void AppendGameRows(std::vector<SettingRow>& rows, ProgramState& state,
+                    const SettingsControls& controls) {
     rows.push_back(ByteRow("Virgin=", state.settings.Virgin));
     rows.push_back(TextRow("Game=", state.settings.Game));
     rows.push_back(TextRow("Q1Folder=", state.games[0].GameFolder));
@@ -73,7 +77,7 @@ void AppendGameRows(std::vector<SettingRow>& rows, ProgramState& state) {
     rows.push_back(TextRow("CurMod3=", state.games[2].CurMod));
     rows.push_back(TextRow("Remote=", state.settings.Remote));
     rows.push_back(ByteRow("Expert=", state.settings.Expert));
-    rows.push_back(PreviewRow(state.settings.Preview));
+    rows.push_back(PreviewRow(controls.optModePreview, controls.optModeReal));
     rows.push_back(ByteRow("AutoShowAll=", state.settings.AutoShowAll));
     rows.push_back(ByteRow("AutoNextShot=", state.settings.AutoNextShot));
     rows.push_back(ByteRow("AutoNextDemo=", state.settings.AutoNextDemo));
@@ -110,7 +114,7 @@ void AppendQ3TextRows(std::vector<SettingRow>& rows, AppSettings& settings) {
 
 std::vector<SettingRow> SettingRows(ProgramState& state, const SettingsControls& controls) {
     std::vector<SettingRow> rows;
-    AppendGameRows(rows, state);
+    AppendGameRows(rows, state, controls);
     AppendDemoRows(rows, controls);
     AppendTranscriptRows(rows, state.settings);
     AppendQ3TextRows(rows, state.settings);

@@ -12,7 +12,8 @@ namespace zentar {
 inline constexpr int kPlayerBoxes = 24;
 
 // Settings that no control holds, and those of controls that keep their value here. Settings that
-// live in a control (the demo filter's) are read from and written to it; see SettingsControls.
+// live in a control (the demo filter's, the view mode) are read from and written to it; see
+// SettingsControls.
 //
 // Names and phrases are game text (bytes), paths are UTF-8.
 struct AppSettings {
@@ -20,7 +21,6 @@ struct AppSettings {
     GameId Game{kQuake2};
     std::string Remote;  // Remote Folder
     std::uint8_t Expert = 0;
-    bool Preview = false;  // screenshots are shown by their preview images only
     std::uint8_t AutoShowAll = 1;
     std::uint8_t AutoNextShot = 0;
     std::uint8_t AutoNextDemo = 0;

@@ -17,6 +17,8 @@ namespace zentar {
 
 // The controls whose state is a setting.
 struct SettingsControls {
+    OptionButton& optModePreview;
+    OptionButton& optModeReal;
     CheckBox& chkShowAllDemos;
     OptionButton& optTextNo;
     OptionButton& optTextYes;

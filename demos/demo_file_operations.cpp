@@ -7,12 +7,12 @@
 
 #include "core/file_name.h"
 #include "core/game_text.h"
+#include "core/hourglass.h"
 #include "core/messages.h"
 #include "core/questions.h"
 #include "core/text.h"
 #include "demos/demo_messages.h"
 #include "demos/demo_name.h"
-#include "demos/hourglass.h"
 #include "platform/file_system.h"
 
 namespace zentar {

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "core/game_folders.h"
+#include "core/hourglass.h"
 #include "core/text.h"
 #include "demos/demo_installation.h"
 #include "demos/demo_messages.h"
-#include "demos/hourglass.h"
 #include "platform/shell.h"
 
 namespace zentar {

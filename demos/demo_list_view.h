@@ -25,8 +25,7 @@ class DemoListView {
     virtual void SetPendingReselection(const std::string& entry) = 0;
     // Asks whether the selected file, which is no demo, should be renamed out of the list.
     virtual void OfferNotADemoRename() = 0;
-    // Runs a command on demos, unless another one is under way: while that lets waiting messages
-    // run, the user may ask for more.
+    // Runs a command on demos, unless another one is under way.
     virtual void RunCommand(const std::function<void()>& command) = 0;
 };
 

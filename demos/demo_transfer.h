@@ -7,11 +7,10 @@
 #include <cstdint>
 #include <string>
 
-#include "core/file_copy.h"
+#include "core/file_transfer.h"
 #include "core/program_state.h"
 #include "demos/demo_list_view.h"
 #include "demos/transfer_messages.h"
-#include "platform/file_system.h"
 #include "platform/platform.h"
 
 namespace zentar {
@@ -27,21 +26,14 @@ class DemoTransfer {
   private:
     struct Job {
         TransferVerb verb;
-        std::string source;
-        std::string target;
+        FileTransfer file;
         std::string mod;
-        bool overwrites = false;
-        bool sameDrive = false;
-        bool leavesOriginal = false;  // of a moved demo that was copied
-        FileInfo copied{};            // what the original was when it was copied
     };
 
     void Transfer(TransferVerb verb);
     bool MayBegin(Job& job);
     bool HasRoom(const Job& job, std::uint64_t length);
-    CopyOutcome Carry(Job& job);
     bool DeleteOriginal(const Job& job);
-    bool IsStillTheCopied(const Job& job);
     void ShowResult(const Job& job, const std::string& item, bool done);
 
     ProgramState& state_;

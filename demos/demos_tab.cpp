@@ -65,20 +65,7 @@ void DemosTab::BindMenu() {
     controls_.mnuDemosRefresh.SetClick([this] { mnuDemosRefresh_Click(); });
 }
 
-void DemosTab::RunCommand(const std::function<void()>& command) {
-    if (commandRuns_) {
-        return;
-    }
-    struct Running {
-        explicit Running(bool& running) : runs(running) { runs = true; }
-        ~Running() { runs = false; }
-        Running(const Running&) = delete;
-        Running& operator=(const Running&) = delete;
-        bool& runs;
-    };
-    const Running running(commandRuns_);
-    command();
-}
+void DemosTab::RunCommand(const std::function<void()>& command) { commands_.Run(command); }
 
 std::function<void()> DemosTab::AsCommand(std::function<void()> command) {
     return [this, command = std::move(command)] { RunCommand(command); };
@@ -100,6 +87,8 @@ bool DemosTab::lstDemos_KeyDown(Key key) {
             RunCommand([this] { PlayDemo(); });
             return true;
         case Key::F1:
+        case Key::Space:
+        case Key::Escape:
             break;
     }
     return false;

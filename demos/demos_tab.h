@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "core/command_guard.h"
 #include "core/game_info.h"
 #include "core/program_state.h"
 #include "demos/demo_file_operations.h"
@@ -105,7 +106,7 @@ class DemosTab : public DemoListView {
     DemoInfo demo_;
     bool unread_ = false;  // it was selected, and its content is still to be read
     PendingReselection pending_;
-    bool commandRuns_ = false;
+    CommandGuard commands_;
     // Counted up with every selection and reset, and with every rebuild: how a procedure notices
     // that another one ran inside it.
     std::uint64_t selections_ = 0;

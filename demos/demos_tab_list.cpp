@@ -2,11 +2,11 @@
 #include <utility>
 
 #include "core/game_text.h"
+#include "core/hourglass.h"
 #include "core/text.h"
 #include "demos/demo_list.h"
 #include "demos/demo_name.h"
 #include "demos/demos_tab.h"
-#include "demos/hourglass.h"
 
 namespace zentar {
 

@@ -2,11 +2,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/hourglass.h"
 #include "demos/demo_menu.h"
 #include "demos/demo_messages.h"
 #include "demos/demo_name.h"
 #include "demos/demos_tab.h"
-#include "demos/hourglass.h"
 
 namespace zentar {
 

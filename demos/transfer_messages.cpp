@@ -4,21 +4,6 @@
 #include "core/text.h"
 
 namespace zentar::messages {
-namespace {
-
-std::string VerbOf(TransferVerb verb) { return verb == TransferVerb::Copy ? "copy" : "move"; }
-
-std::string PastOf(TransferVerb verb) { return verb == TransferVerb::Copy ? "copied" : "moved"; }
-
-}  // namespace
-
-Message NoSpaceForDemo(TransferVerb verb, const std::string& drive, std::uint64_t length,
-                       std::uint64_t space, std::string_view separator) {
-    return Failure(Lines({"No space on your " + drive + " drive to " + VerbOf(verb) + " this demo!",
-                          "", "Demo's file size (bytes):\t" + GroupDigits(length, separator),
-                          "Disk space free (bytes):\t" + GroupDigits(space, separator)}));
-}
-
 Message ReallyTransferDemo(TransferVerb verb) {
     return Confirmation("Really " + VerbOf(verb) + " this demo to this folder?");
 }

@@ -4,6 +4,9 @@
 #include <string>
 
 #include "samples/demo_maker.h"
+#include "samples/shot_maker.h"
+#include "screenshots/busy_image.h"
+#include "tests/unit/nviewlib/image_maker.h"
 
 namespace {
 
@@ -56,6 +59,68 @@ void WriteMods(const std::filesystem::path& folder) {
     Write(folder, "hostile", std::string(14, 'x') + "..\\..\\a:b" + '\0' + "\\gamename\\../con\\");
 }
 
+// Small, so that a fuzz target tries many.
+constexpr int kWidth = 9;
+constexpr int kHeight = 4;
+
+void WriteTga(const std::filesystem::path& folder) {
+    using nviewlib::testing::MakeTga;
+    const auto view = nviewlib::testing::GameView(kWidth, kHeight);
+    const auto few = nviewlib::testing::FewColours(kWidth, kHeight, 5);
+    for (const int packets : {0, 8}) {
+        const std::string how = packets == 0 ? "raw_" : "packets_";
+        for (const int bits : {15, 16, 24, 32}) {
+            const std::string colours = how + "colours_";
+            const std::string map = how + "map_";
+            Write(folder, colours + std::to_string(bits),
+                  MakeTga(view, {.type = 2 + packets, .bits = bits, .fromRight = bits == 24}));
+            Write(folder, map + std::to_string(bits),
+                  MakeTga(few, {.type = 1 + packets, .bits = 8, .mapBits = bits, .mapFirst = 3}));
+        }
+        Write(folder, how + "indexes_16", MakeTga(few, {.type = 1 + packets, .bits = 16}));
+        Write(folder, how + "grey_8", MakeTga(view, {.type = 3 + packets, .bits = 8}));
+        Write(folder, how + "grey_16", MakeTga(view, {.type = 3 + packets, .bits = 16}));
+        Write(folder, how + "all_else",
+              MakeTga(few, {.type = 2 + packets,
+                            .fromTop = true,
+                            .id = "id",
+                            .needlessMap = true,
+                            .footer = true}));
+    }
+}
+
+void WritePcx(const std::filesystem::path& folder) {
+    using nviewlib::testing::MakePcx;
+    const auto view = nviewlib::testing::GameView(kWidth, kHeight);
+    for (const int encoding : {0, 1}) {
+        const std::string how = encoding == 0 ? "raw_" : "runs_";
+        for (const auto& [bits, planes] :
+             {std::pair(1, 1), {1, 2}, {1, 3}, {1, 4}, {2, 1}, {4, 1}, {8, 1}}) {
+            const auto few = nviewlib::testing::FewColours(kWidth, kHeight, 1 << (bits * planes));
+            Write(folder, how + std::to_string(bits) + "x" + std::to_string(planes),
+                  MakePcx(few, {.bits = bits, .planes = planes, .encoding = encoding}));
+        }
+        Write(folder, how + "8x3", MakePcx(view, {.planes = 3, .encoding = encoding}));
+        Write(folder, how + "8x4", MakePcx(view, {.planes = 4, .encoding = encoding}));
+    }
+    const auto few = nviewlib::testing::FewColours(kWidth, kHeight, 5);
+    Write(folder, "runs_across_lines", MakePcx(few, {.padding = 2, .cross = true}));
+    Write(folder, "bytes_behind", MakePcx(few, {.behind = "behind"}));
+}
+
+// What the system decodes: the headers, with some of what follows them.
+void WriteSystemImages(const std::filesystem::path& folder) {
+    constexpr std::size_t kJpgBeginning = 900;
+    Write(folder, "jpg", zentar::samples::MakeJpgShot().substr(0, kJpgBeginning));
+    Write(folder, "gif", std::string(zentar::BusyImage()));
+    const std::string size{'\3', '\0', '\0', '\0', '\2', '\0', '\0', '\0'};
+    const std::string file = "BM" + std::string(8, '\0') + '\66' + std::string(3, '\0') + '\50' +
+                             std::string(3, '\0') + size + '\1' + '\0';
+    Write(folder, "bmp_24", file + '\30' + std::string(25, '\0') + "123456789...123456789...");
+    Write(folder, "bmp_8", file + '\10' + std::string(25, '\0') + "123.123.");
+    Write(folder, "bmp_runs", file + '\10' + '\0' + '\1' + std::string(23, '\0') + "\3a\3b");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -67,5 +132,8 @@ int main(int argc, char** argv) {
     WriteQuake2(corpus / "fuzz_quake2_demo");
     WriteQuake3(corpus / "fuzz_quake3_demo");
     WriteMods(corpus / "fuzz_demo_mod");
+    WriteTga(corpus / "fuzz_tga");
+    WritePcx(corpus / "fuzz_pcx");
+    WriteSystemImages(corpus / "fuzz_bmp_jpg_gif");
     return 0;
 }

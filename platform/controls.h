@@ -14,10 +14,13 @@
 #include <string>
 #include <vector>
 
+#include "platform/bitmap.h"
+#include "platform/geometry.h"
+
 namespace zentar {
 
 // The keys that event procedures ask about; every other key stays with the control.
-enum class Key : std::uint8_t { F1, F2, F5, Delete, Backspace, Enter };
+enum class Key : std::uint8_t { F1, F2, F5, Delete, Backspace, Enter, Space, Escape };
 
 // The event procedures of one control. A control raises only those that its class names; one that
 // is not set is simply not run.
@@ -59,6 +62,44 @@ class Control {
 
 class Label : public Control {};
 
+// The pointer over a control that shows a picture; the custom one is the cursor of its table row.
+enum class BoxPointer : std::uint8_t { Default, Custom };
+
+// Shows a bitmap, scaled to fit with its proportions kept. Raises click and menuRequested.
+class ImageBox : public Control {
+  public:
+    virtual void SetImage(BitmapPtr image) = 0;
+    virtual BitmapPtr Image() const = 0;
+    virtual void SetPointer(BoxPointer pointer) = 0;
+    virtual BoxPointer ShownPointer() const = 0;
+};
+
+enum class MouseButton : std::uint8_t { Left, Right };
+
+// What the mouse does to a picture box. Places are in the box, in pixels, wherever the image
+// stands.
+struct MouseEvents {
+    std::function<void(MouseButton, Point)> down;
+    std::function<void(Point)> drag;  // moved while the left button is down
+    std::function<void()> up;         // the left button is no longer down
+};
+
+// Fills its parent and shows a bitmap in it, each of its pixels as one of the screen, on black.
+// Raises doubleClick and keyDown besides the mouse's events.
+class PictureBox : public Control {
+  public:
+    virtual void SetMouseEvents(MouseEvents events) = 0;
+    virtual void SetImage(BitmapPtr image) = 0;
+    virtual BitmapPtr Image() const = 0;
+    // Where the image's upper left corner stands, also outside of what can be seen.
+    virtual void MoveImage(Point to) = 0;
+    virtual Point ImagePlace() const = 0;
+    // What can be seen at a time, in pixels.
+    virtual Size View() const = 0;
+    virtual void SetPointer(BoxPointer pointer) = 0;
+    virtual BoxPointer ShownPointer() const = 0;
+};
+
 // Shows the icon of its table row; greyed while it is disabled, or inside a disabled frame.
 class Picture : public Control {};
 
@@ -76,6 +117,12 @@ class CheckBox : public Control {
     virtual bool Checked() const = 0;
 };
 
+enum class CaptionColour : std::uint8_t {
+    Normal,
+    Vanished,  // that of the button's face, so that nothing can be read
+    Red,
+};
+
 // One of the option buttons that share a parent, of which at most one is selected. Raises click
 // when it becomes selected, by the user or by the program; being cleared raises nothing.
 class OptionButton : public Control {
@@ -83,6 +130,8 @@ class OptionButton : public Control {
     // Selecting clears the others of the same parent.
     virtual void SetSelected(bool selected) = 0;
     virtual bool Selected() const = 0;
+    virtual void SetCaptionColour(CaptionColour colour) = 0;
+    virtual CaptionColour ShownCaptionColour() const = 0;
 };
 
 // Raises change, gotFocus and keyDown.
@@ -98,8 +147,11 @@ class TextBox : public Control {
 // keyDown.
 class ListBox : public Control {
   public:
-    // Replaces all entries; none is selected afterwards, and no event is raised.
+    // Replaces all entries and shows the first ones; none is selected afterwards, and no event is
+    // raised.
     virtual void SetItems(const std::vector<std::string>& items) = 0;
+    // The same, but the list stays where it is scrolled to, as far as the new entries allow.
+    virtual void UpdateItems(const std::vector<std::string>& items) = 0;
     virtual int Count() const = 0;
     // The text of an entry, 0 to Count()-1.
     virtual std::string Item(int index) const = 0;

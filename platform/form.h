@@ -10,6 +10,8 @@
 namespace zentar {
 
 struct FormEvents {
+    // The window has its size and is about to be seen. Only of windows that are shown modally.
+    std::function<void()> load;
     // The window came to the front. Runs from the message loop, never inside another procedure, so
     // it may show message boxes.
     std::function<void()> activate;
@@ -42,6 +44,8 @@ class Form {
     virtual Label& GetLabel(int id) = 0;
     virtual Frame& GetFrame(int id) = 0;
     virtual Picture& GetPicture(int id) = 0;
+    virtual ImageBox& GetImageBox(int id) = 0;
+    virtual PictureBox& GetPictureBox(int id) = 0;
     virtual Button& GetButton(int id) = 0;
     virtual CheckBox& GetCheckBox(int id) = 0;
     virtual OptionButton& GetOptionButton(int id) = 0;

@@ -9,21 +9,9 @@
 #include <span>
 #include <vector>
 
+#include "platform/geometry.h"
+
 namespace zentar {
-
-struct Size {
-    int width = 0;
-    int height = 0;
-    bool operator==(const Size&) const = default;
-};
-
-struct Rect {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-    bool operator==(const Rect&) const = default;
-};
 
 enum class ControlKind : std::uint8_t {
     Label,
@@ -34,7 +22,9 @@ enum class ControlKind : std::uint8_t {
     ListBox,
     Frame,
     Picture,  // `icon` fills its rectangle
-    Tab,      // the tab control
+    ImageBox,
+    PictureBox,  // fills its parent, whatever its rectangle says
+    Tab,         // the tab control
     TabPage,  // a page of the tab control that is its parent; fills it, whatever its rectangle says
     Timer,    // no window; `interval` milliseconds
 };
@@ -77,6 +67,7 @@ struct ControlRow {
     const char* name = "";
     int icon = 0;      // tab pages and pictures: number of an icon resource
     int interval = 0;  // timers: milliseconds
+    int cursor = 0;    // image and picture boxes: number of the resource of the custom pointer
 };
 
 enum class MenuKind : std::uint8_t { Menu, Popup, Entry, Separator };
@@ -91,7 +82,12 @@ struct MenuRow {
     bool startsDisabled = false;
 };
 
-enum class FormKind : std::uint8_t { Main, Dialog, Splash };
+enum class FormKind : std::uint8_t {
+    Main,
+    Dialog,
+    Splash,
+    FullScreen,  // covers the screen that the window in front is on, black where it shows nothing
+};
 
 struct FormTable {
     int id = 0;

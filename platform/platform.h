@@ -5,7 +5,9 @@ namespace zentar {
 
 class FileSystem;
 class FormFactory;
+class ImageLibrary;
 class Locale;
+class Pictures;
 class Shell;
 class WindowServices;
 
@@ -14,6 +16,8 @@ struct Platform {
     Shell& shell;
     WindowServices& windows;
     Locale& locale;
+    ImageLibrary& library;
+    Pictures& pictures;
     FormFactory& forms;
 };
 

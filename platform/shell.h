@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/result.h"
 
@@ -26,6 +27,8 @@ class Shell {
     virtual std::string ProgramFolder() = 0;
     // The Windows folder, likewise.
     virtual std::string WindowsFolder() = 0;
+    // The user's folder for files that are not to be kept, likewise.
+    virtual std::string TemporaryFolder() = 0;
 
     // Lets the user pick a folder of the file system; nothing when the user cancels. The dialog is
     // owned by whichever window of the program is in front and shows `title` above the folders.
@@ -36,6 +39,13 @@ class Shell {
     virtual Status StartProgram(const ProgramStart& start) = 0;
     // Has a web address opened by the program that the user's system has for it.
     virtual Status OpenAddress(const std::string& address) = 0;
+
+    // Makes a bitmap file the user's desktop wallpaper, from now on and after the next logon.
+    virtual Status SetWallpaper(const std::string& path) = 0;
+    // Does one thing with the rights of an administrator, for which the system asks the user. A
+    // user who declines is an ordinary failure. An existing `to` is replaced.
+    virtual Status CopyElevated(const std::string& from, const std::string& to) = 0;
+    virtual Status DeleteElevated(const std::vector<std::string>& paths) = 0;
 };
 
 }  // namespace zentar

@@ -52,11 +52,16 @@ class WindowServices {
     // The asynchronous state of a key: the high bit says "down now", the low bit "pressed since
     // the last query".
     virtual std::uint16_t KeyState(PollKey key) = 0;
+    // Whether a key was down when the input that is being handled came. Does not count as a query
+    // of KeyState.
+    virtual bool IsDown(PollKey key) = 0;
     virtual void SetPointer(Pointer pointer) = 0;
     // Handles the window messages that are waiting, so that windows repaint. Event procedures may
     // run inside this call. A request to close the program is put off until the outermost event
     // procedure has returned.
     virtual void PumpPending() = 0;
+    // Waits without handling messages.
+    virtual void Sleep(int milliseconds) = 0;
 };
 
 }  // namespace zentar

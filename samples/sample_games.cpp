@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "samples/demo_maker.h"
+#include "samples/shot_maker.h"
 
 namespace zentar::samples {
 
@@ -92,7 +93,7 @@ constexpr std::string_view kQ3Config =
     "seta g_spAwards \"\\a0\\3\\a1\\1\"\r\n"
     "seta g_spSkill \"2\"\r\n";
 
-constexpr std::array<SampleFile, 14> kFiles{{
+constexpr std::array<SampleFile, 16> kFiles{{
     {u8"Quake/id1/pak0.pak", "PACK"},
     {u8"Quake/id1/config.cfg", "bind w +forward\r\n"},
     {u8"Quake/id1/HOLIDAY.DEM", "These are holiday notes, and no demo.\r\n"},
@@ -102,11 +103,41 @@ constexpr std::array<SampleFile, 14> kFiles{{
     {u8"Quake2/baseq2/demos/empty.dm2", ""},
     {u8"Quake2/baseq2/demos/readme.txt", "Demos go here.\r\n"},
     {u8"Quake2/baseq2/demos/shopping list.dm2", "Bread, butter, a better mouse.\r\n"},
+    {u8"Quake2/baseq2/scrnshot/broken.tga", "No picture at all.\r\n"},
+    {u8"Quake2/baseq2/scrnshot/notes.txt", "The best ones are for the web page.\r\n"},
     {u8"Quake3/baseq3/pak0.pk3", "PK"},
     {u8"Quake3/baseq3/pak4.pk3", "PK pak4"},
     {u8"Quake3/baseq3/pak5.pk3", "PK pak5"},
     {u8"Quake3/baseq3/pak6.pk3", "PK pak6"},
     {u8"Quake3/baseq3/q3config.cfg", kQ3Config},
+}};
+
+enum class ShotKind : std::uint8_t { Tga, Pcx, Jpg };
+
+struct SampleShot {
+    std::u8string_view path;
+    ShotKind kind;
+    ShotView view;
+};
+
+constexpr std::array<SampleShot, 15> kShots{{
+    {u8"Quake/id1/quake00.pcx", ShotKind::Pcx, {320, 200, 0}},
+    {u8"Quake/id1/quake01.pcx", ShotKind::Pcx, {320, 200, 1}},
+    {u8"Quake/Rocket Arena/quake00.pcx", ShotKind::Pcx, {320, 200, 2}},
+
+    {u8"Quake2/baseq2/scrnshot/quake00.tga", ShotKind::Tga, {640, 480, 0}},
+    {u8"Quake2/baseq2/scrnshot/quake01.tga", ShotKind::Tga, {1024, 768, 1}},
+    {u8"Quake2/baseq2/scrnshot/QUAKE02.PCX", ShotKind::Pcx, {640, 400, 2}},
+    {u8"Quake2/baseq2/scrnshot/quake03.jpg", ShotKind::Jpg, {}},
+    {u8"Quake2/baseq2/scrnshot/Größe.tga", ShotKind::Tga, {320, 240, 3}},
+    {u8"Quake2/baseq2/scrnshot/выстрел.pcx", ShotKind::Pcx, {320, 240, 4}},
+    {u8"Quake2/baseq2/scrnshot/wide.tga", ShotKind::Tga, {2560, 1440, 5}},
+    {u8"Quake2/CTF/scrnshot/quake00.tga", ShotKind::Tga, {640, 480, 6}},
+
+    {u8"Quake3/baseq3/screenshots/shot0000.tga", ShotKind::Tga, {640, 480, 1}},
+    {u8"Quake3/baseq3/screenshots/shot0001.tga", ShotKind::Tga, {800, 600, 2}},
+    {u8"Quake3/baseq3/screenshots/shot0002.jpg", ShotKind::Jpg, {}},
+    {u8"Quake3/OSP/screenshots/shot0000.tga", ShotKind::Tga, {640, 480, 3}},
 }};
 
 // Mods without demos, and folders that are no mods.
@@ -166,6 +197,18 @@ void WriteDemo(const fs::path& games, const SampleDemo& demo) {
     WriteBytes(path, MakeDemo(demo.kind, contents));
 }
 
+std::string MakeShot(const SampleShot& shot) {
+    switch (shot.kind) {
+        case ShotKind::Tga:
+            return MakeTgaShot(shot.view);
+        case ShotKind::Pcx:
+            return MakePcxShot(shot.view);
+        case ShotKind::Jpg:
+            break;
+    }
+    return MakeJpgShot();
+}
+
 void WriteExtraDemos(const fs::path& folder, int count) {
     for (int number = 1; number <= count; ++number) {
         DemoContents contents;
@@ -196,6 +239,9 @@ void WriteSampleGames(const fs::path& games, const SampleOptions& options) {
     }
     for (const SampleDemo& demo : kDemos) {
         WriteDemo(games, demo);
+    }
+    for (const SampleShot& shot : kShots) {
+        WriteBytes(games / shot.path, MakeShot(shot));
     }
     for (const SampleFile& file : kFiles) {
         WriteBytes(games / file.path, file.bytes);

@@ -1,5 +1,5 @@
-// A tree of the three games to try the program on: stand-in executables, mods, demos of every kind,
-// and the odd files that a real installation collects.
+// A tree of the three games to try the program on: stand-in executables, mods, demos and
+// screenshots of every kind, and the odd files that a real installation collects.
 #pragma once
 
 #include <filesystem>

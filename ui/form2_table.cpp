@@ -6,6 +6,7 @@
 #include "ui/form_tables.h"
 #include "ui/misc_tab_table.h"
 #include "ui/resource.h"
+#include "ui/shots_tab_table.h"
 
 namespace zentar {
 namespace {
@@ -107,6 +108,7 @@ std::vector<ControlRow> AllControls() {
     std::vector<ControlRow> rows;
     Append<ControlRow>(rows, kGameRows);
     Append<ControlRow>(rows, kTabRows);
+    Append<ControlRow>(rows, ShotsTabControlRows());
     Append<ControlRow>(rows, DemosTabControlRows());
     Append<ControlRow>(rows, MiscTabControlRows());
     Append<ControlRow>(rows, kTimerRows);
@@ -116,6 +118,7 @@ std::vector<ControlRow> AllControls() {
 std::vector<MenuRow> AllMenus() {
     std::vector<MenuRow> rows;
     Append<MenuRow>(rows, kMenuBar);
+    Append<MenuRow>(rows, ShotsMenuRows());
     Append<MenuRow>(rows, DemosMenuRows());
     return rows;
 }

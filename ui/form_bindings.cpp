@@ -21,6 +21,8 @@ GameSelectionControls GameSelectionControlsOf(Form& Form2) {
 
 SettingsControls SettingsControlsOf(Form& Form2) {
     return {
+        .optModePreview = Form2.GetOptionButton(IDC_optModePreview),
+        .optModeReal = Form2.GetOptionButton(IDC_optModeReal),
         .chkShowAllDemos = Form2.GetCheckBox(IDC_chkShowAllDemos),
         .optTextNo = Form2.GetOptionButton(IDC_optTextNo),
         .optTextYes = Form2.GetOptionButton(IDC_optTextYes),
@@ -62,6 +64,33 @@ DemosTabControls DemosTabControlsOf(Form& Form2) {
         .mnuDemosSearchMap = Form2.GetMenu(IDM_mnuDemosSearchMap),
         .mnuDemosRefresh = Form2.GetMenu(IDM_mnuDemosRefresh),
         .tmrQ3Game = Form2.GetTimer(IDC_tmrQ3Game),
+    };
+}
+
+ShotsTabControls ShotsTabControlsOf(Form& Form2) {
+    return {
+        .lstScreenshots = Form2.GetListBox(IDC_lstScreenshots),
+        .labNumShots = Form2.GetLabel(IDC_labNumShots),
+        .imgShotView = Form2.GetImageBox(IDC_imgShotView),
+        .optModePreview = Form2.GetOptionButton(IDC_optModePreview),
+        .optModeReal = Form2.GetOptionButton(IDC_optModeReal),
+        .mnuScreenshotShowFull = Form2.GetMenu(IDM_mnuScreenshotShowFull),
+        .mnuScreenshotProperties = Form2.GetMenu(IDM_mnuScreenshotProperties),
+        .mnuScreenshotMakeJPEGOnly = Form2.GetMenu(IDM_mnuScreenshotMakeJPEGOnly),
+        .mnuScreenshotMakeJPEGAndKill = Form2.GetMenu(IDM_mnuScreenshotMakeJPEGAndKill),
+        .mnuScreenshotSetWallpaper = Form2.GetMenu(IDM_mnuScreenshotSetWallpaper),
+        .mnuScreenshotDelete = Form2.GetMenu(IDM_mnuScreenshotDelete),
+        .mnuScreenshotDeletePreview = Form2.GetMenu(IDM_mnuScreenshotDeletePreview),
+        .mnuScreenshotRename = Form2.GetMenu(IDM_mnuScreenshotRename),
+        .mnuScreenshotCopy = Form2.GetMenu(IDM_mnuScreenshotCopy),
+        .mnuScreenshotMove = Form2.GetMenu(IDM_mnuScreenshotMove),
+        .mnuScreenshotDeleteAllWallpaper = Form2.GetMenu(IDM_mnuScreenshotDeleteAllWallpaper),
+        .mnuScreenshotDeleteAll = Form2.GetMenu(IDM_mnuScreenshotDeleteAll),
+        .mnuScreenshotDeleteAllPreview = Form2.GetMenu(IDM_mnuScreenshotDeleteAllPreview),
+        .mnuScreenshotDeleteAllJPG = Form2.GetMenu(IDM_mnuScreenshotDeleteAllJPG),
+        .mnuScreenshotDeleteAllTGA = Form2.GetMenu(IDM_mnuScreenshotDeleteAllTGA),
+        .mnuScreenshotDeleteAllPCX = Form2.GetMenu(IDM_mnuScreenshotDeleteAllPCX),
+        .mnuScreenshotRefresh = Form2.GetMenu(IDM_mnuScreenshotRefresh),
     };
 }
 

@@ -7,12 +7,14 @@
 #include "demos/demo_installer.h"
 #include "demos/demos_tab_controls.h"
 #include "platform/form.h"
+#include "screenshots/shots_tab_controls.h"
 
 namespace zentar {
 
 GameSelectionControls GameSelectionControlsOf(Form& Form2);
 SettingsControls SettingsControlsOf(Form& Form2);
 DemosTabControls DemosTabControlsOf(Form& Form2);
+ShotsTabControls ShotsTabControlsOf(Form& Form2);
 DemoInstallerControls DemoInstallerControlsOf(Form& Form2);
 PreferencesControls PreferencesControlsOf(Form& Form4);
 

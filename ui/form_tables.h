@@ -7,6 +7,7 @@ namespace zentar {
 
 const FormTable& SplashTable();       // Form1
 const FormTable& MainWindowTable();   // Form2
+const FormTable& FullViewTable();     // Form3
 const FormTable& PreferencesTable();  // Form4
 
 }  // namespace zentar

@@ -13,9 +13,14 @@
 #define IDI_TAB_FIRSTAID 15
 #define IDI_INSTALLER 16
 
+// Cursors
+#define IDC_CURSOR_FULLVIEW 21
+#define IDC_CURSOR_DRAG 22
+
 // Windows
 #define IDW_Form1 101
 #define IDW_Form2 102
+#define IDW_Form3 103
 #define IDW_Form4 104
 
 // Splash
@@ -74,6 +79,18 @@
 #define IDC_chkAutoNextShot 1408
 #define IDC_chkAutoNextDemo 1409
 
+// Shots tab
+#define IDC_lstScreenshots 1501
+#define IDC_labNumShots 1502
+#define IDC_imgShotView 1503
+#define IDC_fraPreviewMode 1504
+#define IDC_labPreviewMode 1505
+#define IDC_optModePreview 1506
+#define IDC_optModeReal 1507
+
+// Full-size viewer
+#define IDC_picFull 1601
+
 // Menu bar
 #define IDM_mnuProgram 3001
 #define IDM_mnuProgramPreferences 3002
@@ -102,3 +119,23 @@
 #define IDM_mnuDemosSearchDesc 3111
 #define IDM_mnuDemosSearchMap 3112
 #define IDM_mnuDemosRefresh 3113
+
+// Popup menu "Screenshot"
+#define IDM_mnuScreenshot 3201
+#define IDM_mnuScreenshotShowFull 3202
+#define IDM_mnuScreenshotProperties 3203
+#define IDM_mnuScreenshotMakeJPEGOnly 3204
+#define IDM_mnuScreenshotMakeJPEGAndKill 3205
+#define IDM_mnuScreenshotSetWallpaper 3206
+#define IDM_mnuScreenshotDelete 3207
+#define IDM_mnuScreenshotDeletePreview 3208
+#define IDM_mnuScreenshotRename 3209
+#define IDM_mnuScreenshotCopy 3210
+#define IDM_mnuScreenshotMove 3211
+#define IDM_mnuScreenshotDeleteAllWallpaper 3212
+#define IDM_mnuScreenshotDeleteAll 3213
+#define IDM_mnuScreenshotDeleteAllPreview 3214
+#define IDM_mnuScreenshotDeleteAllJPG 3215
+#define IDM_mnuScreenshotDeleteAllTGA 3216
+#define IDM_mnuScreenshotDeleteAllPCX 3217
+#define IDM_mnuScreenshotRefresh 3218

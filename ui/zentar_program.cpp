@@ -1,5 +1,7 @@
 #include "ui/zentar_program.h"
 
+#include <utility>
+
 #include "core/messages.h"
 #include "core/text.h"
 #include "platform/shell.h"
@@ -28,6 +30,10 @@ void ZentarProgram::Start() {
 void ZentarProgram::BuildMainWindow() {
     Form2_ = platform_.forms.Create(MainWindowTable());
     Form& Form2 = *Form2_;
+    shots_ = std::make_unique<ShotsTab>(
+        state_, platform_, ShotsTabControlsOf(Form2),
+        [&Form2] { Form2.ShowPopup(IDM_mnuScreenshot); },
+        [this](BitmapPtr shot) { ShowFullSize(std::move(shot)); });
     demos_ = std::make_unique<DemosTab>(
         state_, platform_, DemosTabControlsOf(Form2), [&Form2] { Form2.ShowPopup(IDM_mnuDemos); },
         [this] { return state_.FirstActivationDone; });
@@ -68,6 +74,14 @@ void ZentarProgram::ShowPreferences() {
     Form4_->ShowModal();
 }
 
+void ZentarProgram::ShowFullSize(BitmapPtr shot) {
+    if (!Form3_) {
+        Form3_ = platform_.forms.Create(FullViewTable());
+        fullView_ = std::make_unique<FullView>(*Form3_, Form3_->GetPictureBox(IDC_picFull));
+    }
+    fullView_->Show(std::move(shot));
+}
+
 void ZentarProgram::FillDemoFilterList(const GameInfo& game) { demos_->FillPhraseList(game); }
 
 void ZentarProgram::ArrangeDemoInstaller(const GameInfo& game) { installer_->Arrange(game); }
@@ -75,6 +89,10 @@ void ZentarProgram::ArrangeDemoInstaller(const GameInfo& game) { installer_->Arr
 void ZentarProgram::ArrangeDemoProperties(const GameInfo& game) {
     demos_->ArrangeProperties(game.id == kQuake3);
 }
+
+void ZentarProgram::ResetPreviewCaption() { shots_->ResetPreviewCaption(); }
+
+void ZentarProgram::RefreshScreenshotList() { shots_->RefreshScreenshotList(); }
 
 void ZentarProgram::RefreshDemoList() { demos_->RefreshDemoList(); }
 

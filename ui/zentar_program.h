@@ -12,6 +12,8 @@
 #include "demos/demos_tab.h"
 #include "platform/form.h"
 #include "platform/platform.h"
+#include "screenshots/full_view.h"
+#include "screenshots/shots_tab.h"
 
 namespace zentar {
 
@@ -32,19 +34,25 @@ class ZentarProgram final : private GameFollowers {
     void BuildMainWindow();
     void BindMainWindow();
     void ShowPreferences();
+    void ShowFullSize(BitmapPtr shot);
 
     void FillDemoFilterList(const GameInfo& game) override;
     void ArrangeDemoInstaller(const GameInfo& game) override;
     void ArrangeDemoProperties(const GameInfo& game) override;
+    void ResetPreviewCaption() override;
+    void RefreshScreenshotList() override;
     void RefreshDemoList() override;
 
     Platform platform_;
     ProgramState state_;
     std::unique_ptr<Form> Form2_;
+    std::unique_ptr<ShotsTab> shots_;
     std::unique_ptr<DemosTab> demos_;
     std::unique_ptr<DemoInstaller> installer_;
     std::unique_ptr<GameSelection> games_;
     std::unique_ptr<ProgramLife> life_;
+    std::unique_ptr<Form> Form3_;
+    std::unique_ptr<FullView> fullView_;
     std::unique_ptr<Form> Form4_;
     std::unique_ptr<Preferences> preferences_;
 };

@@ -1,7 +1,10 @@
 #include "platform/win32/buttons.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 
+#include "platform/win32/themed_option.h"
 #include "platform/win32/units.h"
 
 namespace zentar {
@@ -108,6 +111,42 @@ void Win32OptionButton::SetSelected(bool selected) {
 }
 
 bool Win32OptionButton::Selected() const { return IsTicked(Handle()); }
+
+void Win32OptionButton::SetCaptionColour(CaptionColour colour) {
+    if (captionColour_ != colour) {
+        captionColour_ = colour;
+        InvalidateRect(Handle(), nullptr, TRUE);
+    }
+}
+
+// One that takes no input is grey, as every other is.
+bool Win32OptionButton::CaptionIsColoured() const {
+    return captionColour_ != CaptionColour::Normal && IsWindowEnabled(Handle());
+}
+
+// The colour of the context counts only without visual styles.
+HBRUSH Win32OptionButton::OnColour(HDC context) {
+    const HBRUSH behind = ControlWindow::OnColour(context);
+    if (CaptionIsColoured()) {
+        SetTextColor(context,
+                     captionColour_ == CaptionColour::Red ? kRedCaption : GetBkColor(context));
+    }
+    return behind;
+}
+
+// With them the button draws its caption in the style's colour, unless someone else draws it.
+LRESULT Win32OptionButton::OnNotify(const NMHDR& header) {
+    if (header.code != static_cast<UINT>(NM_CUSTOMDRAW) || !CaptionIsColoured()) {
+        return CDRF_DODEFAULT;
+    }
+    const auto& drawing = reinterpret_cast<const NMCUSTOMDRAW&>(header);
+    if (drawing.dwDrawStage != CDDS_PREPAINT) {
+        return CDRF_DODEFAULT;
+    }
+    return DrawThemedOption(Handle(), drawing, SurfaceBrush(InnerSurface()), captionColour_)
+               ? CDRF_SKIPDEFAULT
+               : CDRF_DODEFAULT;
+}
 
 void Win32OptionButton::OnCommand(WORD code) {
     // Windows sends this for a button that only got the focus, too.

@@ -45,14 +45,20 @@ class Win32OptionButton : public ControlBase<OptionButton> {
 
     void SetSelected(bool selected) override;
     bool Selected() const override;
+    void SetCaptionColour(CaptionColour colour) override;
+    CaptionColour ShownCaptionColour() const override { return captionColour_; }
     void OnCommand(WORD code) override;
+    LRESULT OnNotify(const NMHDR& header) override;
+    HBRUSH OnColour(HDC context) override;
 
   private:
     void NoteState();
     void KeepOneStop() const;
+    bool CaptionIsColoured() const;
 
     OptionGroup& group_;
     bool known_ = false;
+    CaptionColour captionColour_ = CaptionColour::Normal;
 };
 
 }  // namespace zentar

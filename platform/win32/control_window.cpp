@@ -25,6 +25,7 @@ bool TakesFocus(ControlKind kind) {
         case ControlKind::Label:
         case ControlKind::Frame:
         case ControlKind::Picture:
+        case ControlKind::ImageBox:
         case ControlKind::TabPage:
         case ControlKind::Timer:
             return false;

@@ -27,6 +27,8 @@ class ControlHost {
     virtual void SetTooltipOf(HWND control, const std::string& text) = 0;
     // A control's menu is about to be asked for; a popup opens where that came from.
     virtual void NoteMenuRequest(bool byKeyboard) = 0;
+    // The program is at work: no control shows a pointer of its own.
+    virtual bool ShowsHourglass() const = 0;
 };
 
 // Where a control comes to stand.
@@ -64,7 +66,7 @@ class ControlWindow {
 
     // What the parent is told about the control.
     virtual void OnCommand(WORD /*code*/) {}
-    virtual void OnNotify(const NMHDR& /*header*/) {}
+    virtual LRESULT OnNotify(const NMHDR& /*header*/) { return 0; }
     virtual HBRUSH OnColour(HDC context);
     // After the control got another size or font.
     virtual void OnLayout() {}

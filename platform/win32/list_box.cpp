@@ -66,6 +66,17 @@ void Win32ListBox::SetItems(const std::vector<std::string>& items) {
         return;
     }
     const DrawingStopped stopped(*this);
+    Fill(items);
+}
+
+void Win32ListBox::UpdateItems(const std::vector<std::string>& items) {
+    const DrawingStopped stopped(*this);
+    const LRESULT top = Send(LB_GETTOPINDEX);
+    Fill(items);
+    Send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+}
+
+void Win32ListBox::Fill(const std::vector<std::string>& items) {
     Send(LB_RESETCONTENT);
     std::size_t bytes = 0;
     for (const std::string& item : items) {

@@ -10,6 +10,7 @@ class Win32ListBox : public ControlBase<ListBox> {
     explicit Win32ListBox(const ControlPlace& place);
 
     void SetItems(const std::vector<std::string>& items) override;
+    void UpdateItems(const std::vector<std::string>& items) override;
     int Count() const override;
     std::string Item(int index) const override;
     int SelectedIndex() const override;
@@ -23,6 +24,7 @@ class Win32ListBox : public ControlBase<ListBox> {
     void OnLayout() override;
 
   private:
+    void Fill(const std::vector<std::string>& items);
     class DrawingStopped;
 
     void NoteSelection();

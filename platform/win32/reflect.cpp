@@ -19,8 +19,7 @@ std::optional<LRESULT> ReflectToControl(UINT message, WPARAM wParam, LPARAM lPar
         if (control == nullptr) {
             return std::nullopt;
         }
-        control->OnNotify(header);
-        return 0;
+        return control->OnNotify(header);
     }
     if (message >= WM_CTLCOLOREDIT && message <= WM_CTLCOLORSTATIC) {
         ControlWindow* control = ControlWindow::Of(reinterpret_cast<HWND>(lParam));

@@ -49,10 +49,11 @@ void Win32TabControl::Step(bool backwards) {
     }
 }
 
-void Win32TabControl::OnNotify(const NMHDR& header) {
+LRESULT Win32TabControl::OnNotify(const NMHDR& header) {
     if (header.code == static_cast<UINT>(TCN_SELCHANGE)) {
         NoteSelection();
     }
+    return 0;
 }
 
 void Win32TabControl::NoteSelection() {

@@ -24,7 +24,7 @@ class Win32TabControl : public ControlBase<TabControl> {
     // To the next or the previous tab, round and round.
     void Step(bool backwards);
 
-    void OnNotify(const NMHDR& header) override;
+    LRESULT OnNotify(const NMHDR& header) override;
     void OnDpi(int dpi) override;
 
   private:

@@ -55,12 +55,17 @@ void Win32Form::ShowModal() {
     }
     const HWND owner = session_.forms.DialogOwner();
     SetWindowLongPtrW(window_.Get(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
-    if (!std::exchange(shown_, true)) {
+    const bool first = !std::exchange(shown_, true);
+    // Later a dialog stays where the user put it.
+    if (first || table_.kind == FormKind::FullScreen) {
         MoveWindowTo(FirstPlace(owner));
+    }
+    if (first) {
         NameControlsOncePainted();
     }
     modal_ = true;
     const EventDispatcher::Modal nested(session_.dispatcher);
+    session_.dispatcher.Run(events_.load);
     OtherFormsDisabled others(session_.forms, window_.Get());
     ShowWindow(window_.Get(), SW_SHOW);
     session_.loop.RunWhile(modal_);
@@ -145,6 +150,8 @@ Control& Win32Form::AnyControl(int id) { return Find<Control>(id); }
 Label& Win32Form::GetLabel(int id) { return Find<Label>(id); }
 Frame& Win32Form::GetFrame(int id) { return Find<Frame>(id); }
 Picture& Win32Form::GetPicture(int id) { return Find<Picture>(id); }
+ImageBox& Win32Form::GetImageBox(int id) { return Find<ImageBox>(id); }
+PictureBox& Win32Form::GetPictureBox(int id) { return Find<PictureBox>(id); }
 Button& Win32Form::GetButton(int id) { return Find<Button>(id); }
 CheckBox& Win32Form::GetCheckBox(int id) { return Find<CheckBox>(id); }
 OptionButton& Win32Form::GetOptionButton(int id) { return Find<OptionButton>(id); }

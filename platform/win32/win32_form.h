@@ -49,6 +49,8 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     Label& GetLabel(int id) override;
     Frame& GetFrame(int id) override;
     Picture& GetPicture(int id) override;
+    ImageBox& GetImageBox(int id) override;
+    PictureBox& GetPictureBox(int id) override;
     Button& GetButton(int id) override;
     CheckBox& GetCheckBox(int id) override;
     OptionButton& GetOptionButton(int id) override;
@@ -72,6 +74,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
         tooltips_->Set(control, text);
     }
     void NoteMenuRequest(bool byKeyboard) override { menuByKeyboard_ = byKeyboard; }
+    bool ShowsHourglass() const override { return session_.pointer == Pointer::Hourglass; }
 
     // Building (win32_form_build.cpp)
     void CreateFormWindow();

@@ -5,10 +5,12 @@
 
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/buttons.h"
+#include "platform/win32/image_box.h"
 #include "platform/win32/label.h"
 #include "platform/win32/list_box.h"
 #include "platform/win32/panel.h"
 #include "platform/win32/picture.h"
+#include "platform/win32/picture_box.h"
 #include "platform/win32/tab_control.h"
 #include "platform/win32/text_box.h"
 #include "platform/win32/win32_form.h"
@@ -40,6 +42,8 @@ FormStyle FormStyle::Of(FormKind kind) {
         case FormKind::Dialog:
             return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
                     WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT};
+        case FormKind::FullScreen:
+            return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
         case FormKind::Splash:
             break;
     }
@@ -121,6 +125,10 @@ std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place)
             return std::make_unique<Win32Frame>(place);
         case ControlKind::Picture:
             return std::make_unique<Win32Picture>(place);
+        case ControlKind::ImageBox:
+            return std::make_unique<Win32ImageBox>(place);
+        case ControlKind::PictureBox:
+            return std::make_unique<Win32PictureBox>(place);
         case ControlKind::Tab:
             return std::make_unique<Win32TabControl>(place);
         case ControlKind::TabPage:

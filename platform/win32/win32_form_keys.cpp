@@ -19,12 +19,14 @@ std::optional<Key> KeyOf(WPARAM virtualKey) {
         WPARAM virtualKey;
         Key key;
     };
-    constexpr std::array<Entry, 6> kKeys = {{{VK_F1, Key::F1},
+    constexpr std::array<Entry, 8> kKeys = {{{VK_F1, Key::F1},
                                              {VK_F2, Key::F2},
                                              {VK_F5, Key::F5},
                                              {VK_DELETE, Key::Delete},
                                              {VK_BACK, Key::Backspace},
-                                             {VK_RETURN, Key::Enter}}};
+                                             {VK_RETURN, Key::Enter},
+                                             {VK_SPACE, Key::Space},
+                                             {VK_ESCAPE, Key::Escape}}};
     const auto* at = std::find_if(kKeys.begin(), kKeys.end(), [virtualKey](const Entry& entry) {
         return entry.virtualKey == virtualKey;
     });

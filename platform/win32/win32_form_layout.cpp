@@ -8,12 +8,14 @@
 namespace zentar {
 namespace {
 
-RECT WorkArea(HWND window) {
+MONITORINFO MonitorOf(HWND window) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    return monitor.rcWork;
+    return monitor;
 }
+
+RECT WorkArea(HWND window) { return MonitorOf(window).rcWork; }
 
 LONG Width(const RECT& rect) { return rect.right - rect.left; }
 LONG Height(const RECT& rect) { return rect.bottom - rect.top; }
@@ -51,9 +53,11 @@ SIZE Win32Form::DesignedSizeOnScreen() const {
     return Within(DesignedSize(), WorkArea(window_.Get()));
 }
 
-// In the middle of the screen, or of the window below. Later the window stays where the user put
-// it.
+// In the middle of the screen, or of the window below; or all of the screen.
 RECT Win32Form::FirstPlace(HWND over) const {
+    if (table_.kind == FormKind::FullScreen) {
+        return MonitorOf(over).rcMonitor;
+    }
     const RECT area = WorkArea(over);
     RECT middle = area;
     if (over != nullptr) {

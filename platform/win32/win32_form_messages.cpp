@@ -89,6 +89,10 @@ std::optional<LRESULT> Win32Form::OnDefaultId(WPARAM /*wParam*/, LPARAM /*lParam
 std::optional<LRESULT> Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
     dpi_ = HIWORD(wParam);
     ApplyDpi();
+    if (table_.kind == FormKind::FullScreen) {
+        // A screen has one size, whatever its dpi.
+        return 0;
+    }
     const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
     SIZE size{suggested.right - suggested.left, suggested.bottom - suggested.top};
     if (table_.kind != FormKind::Main) {
@@ -141,7 +145,7 @@ std::optional<LRESULT> Win32Form::OnResume(WPARAM /*wParam*/, LPARAM /*lParam*/)
 
 // NOLINTNEXTLINE(readability-make-member-function-const): the table of handlers holds one type
 std::optional<LRESULT> Win32Form::OnSetCursor(WPARAM /*wParam*/, LPARAM lParam) {
-    if (session_.pointer != Pointer::Hourglass || LOWORD(lParam) != HTCLIENT) {
+    if (!ShowsHourglass() || LOWORD(lParam) != HTCLIENT) {
         return std::nullopt;
     }
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));

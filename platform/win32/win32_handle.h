@@ -3,9 +3,14 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <utility>
 
 namespace zentar {
+
+// How many handles of a kind are owned by now. Wine does not count them for anyone.
+template <typename Traits>
+inline std::atomic<int> liveHandles = 0;
 
 // Owns one handle. Traits names the handle's type, the value that stands for "none" and how to
 // close one.
@@ -15,10 +20,10 @@ class UniqueHandle {
     using Type = typename Traits::Type;
 
     UniqueHandle() = default;
-    explicit UniqueHandle(Type handle) : handle_(handle) {}
+    explicit UniqueHandle(Type handle) : handle_(handle) { Count(handle, 1); }
     UniqueHandle(const UniqueHandle&) = delete;
     UniqueHandle& operator=(const UniqueHandle&) = delete;
-    UniqueHandle(UniqueHandle&& other) noexcept : handle_(other.Release()) {}
+    UniqueHandle(UniqueHandle&& other) noexcept : UniqueHandle(other.Release()) {}
     UniqueHandle& operator=(UniqueHandle&& other) noexcept {
         if (this != &other) {
             Reset(other.Release());
@@ -31,14 +36,26 @@ class UniqueHandle {
     explicit operator bool() const { return handle_ != Traits::None(); }
 
     // Gives the handle away; the caller closes it.
-    [[nodiscard]] Type Release() { return std::exchange(handle_, Traits::None()); }
+    [[nodiscard]] Type Release() {
+        Count(handle_, -1);
+        return std::exchange(handle_, Traits::None());
+    }
     // False when the system could not close the old one properly.
     bool Reset(Type handle = Traits::None()) {
-        const Type old = std::exchange(handle_, handle);
+        const Type old = Release();
+        Count(handle, 1);
+        handle_ = handle;
         return old == Traits::None() || Traits::Close(old);
     }
+    static int Live() { return liveHandles<Traits>; }
 
   private:
+    static void Count(Type handle, int change) {
+        if (handle != Traits::None()) {
+            liveHandles<Traits> += change;
+        }
+    }
+
     Type handle_ = Traits::None();
 };
 
@@ -78,10 +95,22 @@ struct IconHandleTraits {
     static bool Close(Type handle) { return DestroyIcon(handle) != FALSE; }
 };
 
+struct CursorHandleTraits {
+    using Type = HCURSOR;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DestroyCursor(handle) != FALSE; }
+};
+
 struct BitmapHandleTraits {
     using Type = HBITMAP;
     static Type None() { return nullptr; }
     static bool Close(Type handle) { return DeleteObject(handle) != FALSE; }
+};
+
+struct ModuleHandleTraits {
+    using Type = HMODULE;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return FreeLibrary(handle) != FALSE; }
 };
 
 struct ProcessHandleTraits {
@@ -102,7 +131,9 @@ using UniqueWindow = UniqueHandle<WindowHandleTraits>;
 using UniqueMenu = UniqueHandle<MenuHandleTraits>;
 using UniqueFont = UniqueHandle<FontHandleTraits>;
 using UniqueIcon = UniqueHandle<IconHandleTraits>;
+using UniqueCursor = UniqueHandle<CursorHandleTraits>;
 using UniqueBitmap = UniqueHandle<BitmapHandleTraits>;
+using UniqueModule = UniqueHandle<ModuleHandleTraits>;
 using UniqueProcess = UniqueHandle<ProcessHandleTraits>;  // or one of its threads
 using UniqueMemoryContext = UniqueHandle<MemoryContextTraits>;
 

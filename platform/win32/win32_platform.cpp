@@ -15,7 +15,9 @@ Win32Platform::Win32Platform(HINSTANCE instance, LayoutFunction layout)
     session_.dispatcher.SetOnIdle([this] { session_.forms.ResumeAll(); });
 }
 
-Platform Win32Platform::Services() { return {files_, shell_, windows_, locale_, forms_}; }
+Platform Win32Platform::Services() {
+    return {files_, shell_, windows_, locale_, library_, pictures_, forms_};
+}
 
 int Win32Platform::RunMessageLoop() const { return session_.loop.Run(); }
 

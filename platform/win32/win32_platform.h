@@ -8,7 +8,9 @@
 #include "platform/platform.h"
 #include "platform/win32/win32_file_system.h"
 #include "platform/win32/win32_form_factory.h"
+#include "platform/win32/win32_image_library.h"
 #include "platform/win32/win32_locale.h"
+#include "platform/win32/win32_pictures.h"
 #include "platform/win32/win32_session.h"
 #include "platform/win32/win32_shell.h"
 #include "platform/win32/win32_window_services.h"
@@ -32,6 +34,8 @@ class Win32Platform {
     Win32Shell shell_{session_};
     Win32WindowServices windows_{session_};
     Win32Locale locale_;
+    Win32ImageLibrary library_{shell_.WindowsFolder()};
+    Win32Pictures pictures_{session_};
     Win32FormFactory forms_{session_};
 };
 

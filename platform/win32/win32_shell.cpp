@@ -9,8 +9,10 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/win32/elevated_files.h"
 #include "platform/win32/program_start.h"
 #include "platform/win32/win32_file_error.h"
+#include "platform/win32/win32_path.h"
 #include "platform/win32/win32_text.h"
 
 namespace zentar {
@@ -82,6 +84,12 @@ std::string Win32Shell::WindowsFolder() {
     return Narrow(WithoutLastSeparator(folder));
 }
 
+std::string Win32Shell::TemporaryFolder() {
+    std::wstring folder(MAX_PATH + 1, L'\0');
+    folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
+    return Narrow(WithoutLastSeparator(folder));
+}
+
 std::optional<std::string> Win32Shell::PickFolder(const std::string& title) {
     session_.ole.Need();
     const std::wstring wideTitle = Widen(title);
@@ -113,6 +121,31 @@ Status Win32Shell::OpenAddress(const std::string& address) {
     execute.lpFile = wide.c_str();
     execute.nShow = SW_SHOWNORMAL;
     return ShellExecuteExW(&execute) ? Status() : Status(LastFileError());
+}
+
+Status Win32Shell::SetWallpaper(const std::string& path) {
+    const std::optional<std::wstring> native = NativePath(path);
+    if (!native) {
+        return FileError::BadName;
+    }
+    std::wstring file = PlainPath(*native);
+    // Windows takes any name, and shows nothing when there is no such file.
+    if (GetFileAttributesW(file.c_str()) == INVALID_FILE_ATTRIBUTES ||
+        !SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, file.data(),
+                               SPIF_UPDATEINIFILE | SPIF_SENDCHANGE)) {
+        return LastFileError();
+    }
+    return {};
+}
+
+Status Win32Shell::CopyElevated(const std::string& from, const std::string& to) {
+    session_.ole.Need();
+    return CopyAsAdministrator(from, to, session_.forms.DialogOwner());
+}
+
+Status Win32Shell::DeleteElevated(const std::vector<std::string>& paths) {
+    session_.ole.Need();
+    return DeleteAsAdministrator(paths, session_.forms.DialogOwner());
 }
 
 }  // namespace zentar

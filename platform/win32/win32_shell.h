@@ -12,9 +12,13 @@ class Win32Shell : public Shell {
 
     std::string ProgramFolder() override;
     std::string WindowsFolder() override;
+    std::string TemporaryFolder() override;
     std::optional<std::string> PickFolder(const std::string& title) override;
     Status StartProgram(const ProgramStart& start) override;
     Status OpenAddress(const std::string& address) override;
+    Status SetWallpaper(const std::string& path) override;
+    Status CopyElevated(const std::string& from, const std::string& to) override;
+    Status DeleteElevated(const std::vector<std::string>& paths) override;
 
   private:
     Win32Session& session_;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/win32/input_box.h"
+#include "platform/win32/pointer_refresh.h"
 #include "platform/win32/win32_text.h"
 
 namespace zentar {
@@ -46,19 +47,6 @@ BOOL CALLBACK CompareTitle(HWND window, LPARAM parameter) {
     search.found =
         std::wstring_view(search.room).substr(0, static_cast<std::size_t>(length)) == search.wanted;
     return search.found ? FALSE : TRUE;
-}
-
-// Asks the window under the pointer, if it is one of the program's, to choose the pointer anew.
-void RefreshPointer() {
-    POINT place{};
-    GetCursorPos(&place);
-    const HWND window = WindowFromPoint(place);
-    if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) {
-        return;
-    }
-    const LRESULT hit = SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(place.x, place.y));
-    SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
-                 MAKELPARAM(hit, WM_MOUSEMOVE));
 }
 
 }  // namespace
@@ -106,11 +94,17 @@ std::uint16_t Win32WindowServices::KeyState(PollKey key) {
     return static_cast<std::uint16_t>(state);
 }
 
+bool Win32WindowServices::IsDown(PollKey key) {
+    return GetKeyState(key == PollKey::Shift ? VK_SHIFT : VK_CONTROL) < 0;
+}
+
 void Win32WindowServices::SetPointer(Pointer pointer) {
     session_.pointer = pointer;
     RefreshPointer();
 }
 
 void Win32WindowServices::PumpPending() { session_.loop.RunPending(); }
+
+void Win32WindowServices::Sleep(int milliseconds) { ::Sleep(static_cast<DWORD>(milliseconds)); }
 
 }  // namespace zentar

@@ -15,8 +15,10 @@ class Win32WindowServices : public WindowServices {
     bool HasWindowTitled(const std::string& title) override;
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
+    bool IsDown(PollKey key) override;
     void SetPointer(Pointer pointer) override;
     void PumpPending() override;
+    void Sleep(int milliseconds) override;
 
   private:
     Win32Session& session_;

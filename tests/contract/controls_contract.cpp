@@ -26,6 +26,11 @@ constexpr ControlRow PictureRow(int id, int parent, Rect rect, std::uint16_t fla
     return row;
 }
 
+constexpr ControlRow WithCursor(ControlRow row) {
+    row.cursor = 1;
+    return row;
+}
+
 constexpr ControlRow Explained(ControlRow row, const char* tooltip) {
     row.tooltip = tooltip;
     return row;
@@ -62,6 +67,7 @@ constexpr std::array kControls = {
     Row(kTabs, Kind::Tab, 0, {280, 140, 300, 150}, ""),
     Row(kPageOne, Kind::TabPage, kTabs, {}, "One"),
     Row(kButtonOne, Kind::Button, kPageOne, {10, 10, 120, 24}, "First"),
+    WithCursor(Row(kImage, Kind::ImageBox, kPageOne, {10, 40, 120, 60}, "")),
     Row(kPageTwo, Kind::TabPage, kTabs, {}, "Two"),
     Row(kButtonTwo, Kind::Button, kPageTwo, {10, 10, 120, 24}, "Second"),
     TimerRow(kTimer, 20),
@@ -85,6 +91,14 @@ constexpr std::array kDialogControls = {
     Row(kDialogClose, Kind::Button, 0, {10, 40, 120, 24}, "Close"),
 };
 
+constexpr ControlRow FullPictureRow() {
+    ControlRow row = WithCursor(Row(kFullPicture, Kind::PictureBox, 0, {0, 0, 320, 200}, ""));
+    row.anchors = AnchorAll;
+    return row;
+}
+
+constexpr std::array kFullControls = {FullPictureRow()};
+
 }  // namespace
 
 const FormTable& ContractMainTable() {
@@ -96,6 +110,12 @@ const FormTable& ContractMainTable() {
 const FormTable& ContractDialogTable() {
     static const FormTable table{kDialogForm, FormKind::Dialog, "Contract dialog",
                                  {220, 80},   kDialogControls,  {}};
+    return table;
+}
+
+const FormTable& ContractFullScreenTable() {
+    static const FormTable table{kFullForm,  FormKind::FullScreen, "Contract screen",
+                                 {320, 200}, kFullControls,        {}};
     return table;
 }
 

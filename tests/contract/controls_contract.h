@@ -35,6 +35,11 @@ class ControlsWorld {
     virtual void Press(Form& form, Key key) = 0;
     virtual void PickMenu(Form& form, int id) = 0;
     virtual void CloseWindow(Form& form) = 0;
+    virtual void RightClick(Form& form, int id) = 0;
+    virtual void DoubleClick(Form& form, int id) = 0;
+    virtual void PressMouse(Form& form, int id, MouseButton button, Point at) = 0;
+    virtual void DragMouse(Form& form, int id, Point to) = 0;
+    virtual void ReleaseMouse(Form& form, int id) = 0;
     // In the next popup menu, goes down so many lines and picks that one, `id`; or none.
     virtual void PickFromPopup(Form& form, int downs, int id) = 0;
     virtual void DismissPopup(Form& form) = 0;
@@ -51,6 +56,8 @@ class ControlsWorld {
     virtual std::string Tooltip(Form& form, int id) = 0;
     // The control's upper edge in its parent, in twips.
     virtual int TopTwips(Form& form, int id) = 0;
+
+    virtual BitmapPtr MakeBitmap(Size size) = 0;
 };
 
 using ControlsWorldMaker = std::unique_ptr<ControlsWorld> (*)();
@@ -83,6 +90,7 @@ enum ContractId {
     kPageOne,
     kPageTwo,
     kButtonOne,
+    kImage,  // on kPageOne
     kButtonTwo,
     kTimer,
     kMenuFile,
@@ -96,10 +104,13 @@ enum ContractId {
     kDialogForm,
     kDialogText,
     kDialogClose,
+    kFullForm,
+    kFullPicture,
 };
 
 const FormTable& ContractMainTable();
 const FormTable& ContractDialogTable();
+const FormTable& ContractFullScreenTable();
 
 class ControlsContract : public testing::TestWithParam<ControlsWorldMaker> {
   protected:
@@ -133,5 +144,6 @@ using TextAndListContract = ControlsContract;
 using FocusContract = ControlsContract;
 using FormContract = ControlsContract;
 using LooksContract = ControlsContract;
+using ImageControlsContract = ControlsContract;
 
 }  // namespace zentar

@@ -1,5 +1,6 @@
 // The controls contract, kept by the doubles.
 #include "tests/contract/controls_contract.h"
+#include "tests/contract/full_screen_contract.h"
 #include "tests/doubles/memory_platform.h"
 
 namespace zentar {
@@ -16,7 +17,7 @@ class MemoryControlsWorld : public ControlsWorld {
 
     // Shown windows come to the front here, as Windows brings them there.
     void Settle() override {
-        for (const int id : {kMainForm, kDialogForm}) {
+        for (const int id : {kMainForm, kDialogForm, kFullForm}) {
             if (!platform_.forms.Exists(id))
                 continue;
             MemoryForm& form = platform_.forms.Get(id);
@@ -55,6 +56,16 @@ class MemoryControlsWorld : public ControlsWorld {
         Settle();
     }
 
+    void RightClick(Form& form, int id) override { InMemory(form).UserRightClick(id); }
+    void DoubleClick(Form& form, int id) override { InMemory(form).UserDoubleClick(id); }
+    void PressMouse(Form& form, int id, MouseButton button, Point at) override {
+        InMemory(form).UserMouseOn(id).Press(button, at);
+    }
+    void DragMouse(Form& form, int id, Point to) override {
+        InMemory(form).UserMouseOn(id).Drag(to);
+    }
+    void ReleaseMouse(Form& form, int id) override { InMemory(form).UserMouseOn(id).Release(); }
+
     void PickFromPopup(Form& form, int /*downs*/, int id) override {
         InMemory(form).SetPopupUser([&form, id](int) { InMemory(form).UserPickMenu(id); });
     }
@@ -71,6 +82,10 @@ class MemoryControlsWorld : public ControlsWorld {
     }
     std::string Tooltip(Form& form, int id) override { return InMemory(form).Tooltip(id); }
     int TopTwips(Form& form, int id) override { return InMemory(form).TopTwips(id); }
+
+    BitmapPtr MakeBitmap(Size size) override {
+        return std::make_shared<MemoryBitmap>(size, "something");
+    }
 
   private:
     MemoryPlatform platform_;
@@ -90,5 +105,7 @@ INSTANTIATE_TEST_SUITE_P(Memory, TextAndListContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FocusContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FormContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, LooksContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, ImageControlsContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, FullScreenContract, kMemory);
 
 }  // namespace zentar

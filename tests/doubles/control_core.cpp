@@ -26,6 +26,7 @@ bool ControlCore::CanTakeFocus() const {
         case ControlKind::Label:
         case ControlKind::Frame:
         case ControlKind::Picture:
+        case ControlKind::ImageBox:
         case ControlKind::TabPage:
         case ControlKind::Timer:
             return false;

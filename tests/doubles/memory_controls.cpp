@@ -68,6 +68,21 @@ void MemoryOptionButton::Change(bool selected) {
         Raise("click", &ControlEvents::click);
 }
 
+void MemoryOptionButton::SetCaptionColour(CaptionColour colour) {
+    switch (colour) {
+        case CaptionColour::Normal:
+            Log("SetCaptionColour(Normal)");
+            break;
+        case CaptionColour::Vanished:
+            Log("SetCaptionColour(Vanished)");
+            break;
+        case CaptionColour::Red:
+            Log("SetCaptionColour(Red)");
+            break;
+    }
+    captionColour_ = colour;
+}
+
 bool MemoryOptionButton::IsTabStop() const {
     if (!CanTakeFocus())
         return false;
@@ -214,6 +229,10 @@ std::unique_ptr<ControlCore> MakeMemoryControl(ControlHost& host, const ControlR
             return std::make_unique<MemoryFrame>(host, row, parent);
         case ControlKind::Picture:
             return std::make_unique<MemoryPicture>(host, row, parent);
+        case ControlKind::ImageBox:
+            return std::make_unique<MemoryImageBox>(host, row, parent);
+        case ControlKind::PictureBox:
+            return std::make_unique<MemoryPictureBox>(host, row, parent);
         case ControlKind::Tab:
             return std::make_unique<MemoryTab>(host, row, parent);
         case ControlKind::TabPage:

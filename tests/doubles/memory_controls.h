@@ -100,6 +100,49 @@ using MemoryLabel = MemoryControl<Label>;
 using MemoryFrame = MemoryControl<Frame>;
 using MemoryPicture = MemoryControl<Picture>;
 
+class MemoryImageBox : public MemoryControl<ImageBox> {
+  public:
+    using MemoryControl::MemoryControl;
+    void Clicked() override { Raise("click", &ControlEvents::click); }
+    void SetImage(BitmapPtr image) override;
+    BitmapPtr Image() const override { return image_; }
+    void SetPointer(BoxPointer pointer) override { pointer_ = pointer; }
+    BoxPointer ShownPointer() const override { return pointer_; }
+
+  private:
+    BitmapPtr image_;
+    BoxPointer pointer_ = BoxPointer::Default;
+};
+
+class MemoryPictureBox : public MemoryControl<PictureBox> {
+  public:
+    using MemoryControl::MemoryControl;
+    void SetMouseEvents(MouseEvents events) override { mouse_ = std::move(events); }
+    void SetImage(BitmapPtr image) override { image_ = std::move(image); }
+    BitmapPtr Image() const override { return image_; }
+    void MoveImage(Point to) override;
+    Point ImagePlace() const override { return place_; }
+    Size View() const override { return view_; }
+    void SetPointer(BoxPointer pointer) override { pointer_ = pointer; }
+    BoxPointer ShownPointer() const override { return pointer_; }
+
+    void SetView(Size view) { view_ = view; }
+    int Moves() const { return moves_; }
+    // The user's mouse.
+    void Press(MouseButton button, Point at);
+    void Drag(Point to);
+    void Release();
+
+  private:
+    MouseEvents mouse_;
+    BitmapPtr image_;
+    Point place_;
+    Size view_{1024, 768};
+    BoxPointer pointer_ = BoxPointer::Default;
+    bool leftDown_ = false;
+    int moves_ = 0;
+};
+
 class MemoryButton : public MemoryControl<Button> {
   public:
     using MemoryControl::MemoryControl;
@@ -125,12 +168,15 @@ class MemoryOptionButton : public MemoryControl<OptionButton> {
     void ClearSelection() override { selected_ = false; }
     void SetSelected(bool selected) override;
     bool Selected() const override { return selected_; }
+    void SetCaptionColour(CaptionColour colour) override;
+    CaptionColour ShownCaptionColour() const override { return captionColour_; }
     // Of a group, only the selected button, or the first while none is.
     bool IsTabStop() const override;
 
   private:
     void Change(bool selected);
     bool selected_;
+    CaptionColour captionColour_ = CaptionColour::Normal;
 };
 
 class MemoryTextBox : public MemoryControl<TextBox> {
@@ -156,6 +202,7 @@ class MemoryListBox : public MemoryControl<ListBox> {
   public:
     MemoryListBox(ControlHost& host, const ControlRow& row, ControlCore* parent);
     void SetItems(const std::vector<std::string>& items) override;
+    void UpdateItems(const std::vector<std::string>& items) override { SetItems(items); }
     int Count() const override { return static_cast<int>(items_.size()); }
     std::string Item(int index) const override;
     int SelectedIndex() const override { return selected_; }

@@ -81,6 +81,8 @@ void MemoryForm::Show() {
 void MemoryForm::ShowModal() {
     if (shown_)
         return;
+    if (events_.load)
+        RunProcedure(events_.load);
     Show();
     MemoryForm* const before = session_->front;
     session_->modals.push_back(this);

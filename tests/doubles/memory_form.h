@@ -60,6 +60,8 @@ class MemoryForm : public Form, private ControlHost {
     Label& GetLabel(int id) override { return Get<MemoryLabel>(id); }
     Frame& GetFrame(int id) override { return Get<MemoryFrame>(id); }
     Picture& GetPicture(int id) override { return Get<MemoryPicture>(id); }
+    ImageBox& GetImageBox(int id) override { return Get<MemoryImageBox>(id); }
+    PictureBox& GetPictureBox(int id) override { return Get<MemoryPictureBox>(id); }
     Button& GetButton(int id) override { return Get<MemoryButton>(id); }
     CheckBox& GetCheckBox(int id) override { return Get<MemoryCheckBox>(id); }
     OptionButton& GetOptionButton(int id) override { return Get<MemoryOptionButton>(id); }
@@ -77,6 +79,10 @@ class MemoryForm : public Form, private ControlHost {
     void UserDoubleClick(int list, int index);
     // The pointer is over the entry, or over none (-1).
     void UserRightClick(int list, int index);
+    void UserRightClick(int imageBox);
+    // What the user's mouse does is the box's own.
+    MemoryPictureBox& UserMouseOn(int pictureBox);
+    void UserDoubleClick(int pictureBox);
     void UserSelectTab(int tab, int index);
     void UserType(std::string_view text);
     // To the focused control, then to the window; an unused Enter presses a button.

@@ -87,6 +87,21 @@ void MemoryForm::UserRightClick(int list, int index) {
     box.SetEntryAtPointer(-1);
 }
 
+void MemoryForm::UserRightClick(int imageBox) {
+    MemoryImageBox& box = Get<MemoryImageBox>(imageBox);
+    if (Reach(imageBox, "UserRightClick", false) != nullptr)
+        box.Raise("menuRequested", &ControlEvents::menuRequested);
+}
+
+MemoryPictureBox& MemoryForm::UserMouseOn(int pictureBox) {
+    Reach(pictureBox, "UserMouseOn");
+    return Get<MemoryPictureBox>(pictureBox);
+}
+
+void MemoryForm::UserDoubleClick(int pictureBox) {
+    UserMouseOn(pictureBox).Raise("doubleClick", &ControlEvents::doubleClick);
+}
+
 void MemoryForm::UserSelectTab(int tab, int index) {
     MemoryTab& control = Get<MemoryTab>(tab);
     if (Reach(tab, "UserSelectTab") != nullptr)
@@ -121,8 +136,11 @@ bool MemoryForm::Uses(const std::function<bool(Key)>& procedure, Key key) {
 void MemoryForm::UserKey(Key key) {
     if (!TakesInput("UserKey"))
         return;
-    const bool raisesKeys = focused_ != nullptr && (focused_->Row().kind == ControlKind::TextBox ||
-                                                    focused_->Row().kind == ControlKind::ListBox);
+    const auto isKind = [this](ControlKind kind) {
+        return focused_ != nullptr && focused_->Row().kind == kind;
+    };
+    const bool raisesKeys = isKind(ControlKind::TextBox) || isKind(ControlKind::ListBox) ||
+                            isKind(ControlKind::PictureBox);
     if (raisesKeys && Uses(focused_->Events().keyDown, key))
         return;
     if (Uses(events_.keyDown, key))

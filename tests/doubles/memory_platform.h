@@ -5,6 +5,7 @@
 #include "tests/doubles/event_log.h"
 #include "tests/doubles/memory_file_system.h"
 #include "tests/doubles/memory_form.h"
+#include "tests/doubles/memory_pictures.h"
 #include "tests/doubles/scripted_services.h"
 
 namespace zentar {
@@ -15,12 +16,15 @@ struct MemoryPlatform {
     ScriptedShell shell{&log};
     ScriptedWindows windows{&log};
     FixedLocale locale;
+    MemoryImageLibrary library{files, &log};
+    MemoryPictures pictures;
     MemoryFormFactory forms{&log};
 
-    Platform Services() { return {files, shell, windows, locale, forms}; }
+    Platform Services() { return Services(files); }
     // The same, with another file system before or instead of the one in memory.
     Platform Services(FileSystem& otherFiles) {
-        return {otherFiles, shell, windows, locale, forms};
+        library.UseFiles(otherFiles);
+        return {otherFiles, shell, windows, locale, library, pictures, forms};
     }
 };
 

@@ -73,6 +73,23 @@ Status ScriptedShell::OpenAddress(const std::string& address) {
     return expected.result;
 }
 
+Status ScriptedShell::SetWallpaper(const std::string& path) {
+    Log("SetWallpaper " + path);
+    if (wallpaperAnswer.Ok())
+        wallpaper = path;
+    return wallpaperAnswer;
+}
+
+Status ScriptedShell::CopyElevated(const std::string& from, const std::string& to) {
+    Log("CopyElevated " + from + " " + to);
+    return copyElevated ? copyElevated(from, to) : FileError::AccessDenied;
+}
+
+Status ScriptedShell::DeleteElevated(const std::vector<std::string>& paths) {
+    Log("DeleteElevated " + std::to_string(paths.size()));
+    return deleteElevated ? deleteElevated(paths) : FileError::AccessDenied;
+}
+
 void ScriptedShell::ExpectStart(const ProgramStart& start, Status result) {
     starts_.push_back({start, result});
 }
@@ -158,6 +175,15 @@ void ScriptedWindows::PumpPending() {
     Log("Pump");
     if (duringPump_)
         duringPump_();
+}
+
+void ScriptedWindows::Sleep(int milliseconds) { Log("Sleep " + std::to_string(milliseconds)); }
+
+void ScriptedWindows::SetDown(PollKey key, bool down) {
+    if (down)
+        down_.insert(key);
+    else
+        down_.erase(key);
 }
 
 void ScriptedWindows::Expect(const Message& message, Answer answer,

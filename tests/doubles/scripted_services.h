@@ -31,6 +31,10 @@ class ScriptedShell : public Shell {
     std::optional<std::string> PickFolder(const std::string& title) override;
     Status StartProgram(const ProgramStart& start) override;
     Status OpenAddress(const std::string& address) override;
+    std::string TemporaryFolder() override { return temporaryFolder; }
+    Status SetWallpaper(const std::string& path) override;
+    Status CopyElevated(const std::string& from, const std::string& to) override;
+    Status DeleteElevated(const std::vector<std::string>& paths) override;
 
     // The next folder dialog has this title; the user picks the folder, or cancels.
     void ExpectPick(const std::string& title, std::optional<std::string> picked);
@@ -46,6 +50,12 @@ class ScriptedShell : public Shell {
 
     std::string programFolder = "C:\\Program Files\\Zentar";
     std::string windowsFolder = "C:\\Windows";
+    std::string temporaryFolder = "C:\\Temp";
+    std::string wallpaper;     // the one that the user has
+    Status wallpaperAnswer{};  // so the next ones end
+    // What an administrator does; without one, the user declines.
+    std::function<Status(const std::string& from, const std::string& to)> copyElevated;
+    std::function<Status(const std::vector<std::string>& paths)> deleteElevated;
 
   private:
     struct ExpectedPick {
@@ -82,7 +92,9 @@ class ScriptedWindows : public WindowServices {
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
     void SetPointer(Pointer pointer) override;
+    bool IsDown(PollKey key) override { return down_.contains(key); }
     void PumpPending() override;
+    void Sleep(int milliseconds) override;
 
     // The next box is this one, whole, and the user answers so. `meanwhile` runs while it is open.
     void Expect(const Message& message, Answer answer, std::function<void()> meanwhile = {});
@@ -95,6 +107,9 @@ class ScriptedWindows : public WindowServices {
 
     // 0x8000: the key is down; 0x0001: it was pressed since the last query.
     void SetKeyState(PollKey key, std::uint16_t state) { keys_[key] = state; }
+
+    // As the input that is being handled came.
+    void SetDown(PollKey key, bool down = true);
 
     // The titles of the windows that other programs show.
     void SetWindowTitles(std::set<std::string> titles) { titles_ = std::move(titles); }
@@ -130,6 +145,7 @@ class ScriptedWindows : public WindowServices {
     std::vector<Pointer> pointers_;
     Pointer pointer_ = Pointer::Default;
     std::map<PollKey, std::uint16_t> keys_;
+    std::set<PollKey> down_;
     std::function<void()> duringPump_;
     int pumps_ = 0;
 };

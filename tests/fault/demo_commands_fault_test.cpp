@@ -10,6 +10,7 @@
 #include "samples/demo_maker.h"
 #include "tests/doubles/faulty_file_system.h"
 #include "tests/doubles/memory_platform.h"
+#include "tests/fault/yes_windows.h"
 #include "ui/resource.h"
 #include "ui/zentar_program.h"
 
@@ -18,17 +19,6 @@ namespace {
 
 using samples::DemoKind;
 using samples::MakeDemo;
-
-// Answers every box as somebody who wants the command done, whatever it says.
-class YesWindows : public ScriptedWindows {
-  public:
-    Answer Ask(const Message& message) override {
-        return message.buttons == MessageButtons::Ok ? Answer::Ok : Answer::Yes;
-    }
-    std::optional<std::string> AskText(const TextQuestion& /*question*/) override {
-        return "renamed";
-    }
-};
 
 class UnzippedShell : public ScriptedShell {
   public:
@@ -63,7 +53,7 @@ struct OneRun {
                       "Virgin=0\r\nGame=" + game +
                           "\r\nQ2Folder=C:\\Quake2\\\r\nQ3Folder=C:\\Quake3\\\r\nCurMod2=ctf\r\n"
                           "Remote=D:\\Remote\\\r\nExpert=1\r\n");
-        program.emplace(Platform{faulty, shell, windows, locale, forms});
+        program.emplace(Platform{faulty, shell, windows, locale, library, pictures, forms});
         program->Start();
         Window().Activate();
         Window().UserSelectTab(IDC_SSTab1, 1);
@@ -92,6 +82,8 @@ struct OneRun {
     UnzippedShell shell;
     YesWindows windows;
     FixedLocale locale;
+    MemoryImageLibrary library{faulty, &log};
+    MemoryPictures pictures;
     MemoryFormFactory forms{&log};
     std::optional<ZentarProgram> program;
     int menu = 0;

@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "samples/demo_maker.h"
+#include "tests/window/commands_fixture.h"
 #include "tests/window/second_drive.h"
 #include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
-#include "tests/window/zentar_driver.h"
 #include "ui/resource.h"
 
 namespace zentar::window_tests {
@@ -15,68 +15,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Lines = std::vector<std::string>;
-
-BoxContents Question(const std::string& text) {
-    return {.title = "Confirm",
-            .text = text,
-            .icon = BoxIcon::Question,
-            .buttons = {IDYES, IDNO},
-            .defaultButton = IDNO};
-}
-
-BoxContents ReadOnlyQuestion(const Lines& lines) {
-    return {.title = "Error",
-            .text = BoxLines(lines),
-            .icon = BoxIcon::Exclamation,
-            .buttons = {IDYES, IDNO},
-            .defaultButton = IDNO};
-}
-
-BoxContents Failure(const Lines& lines) {
-    return {.title = "Error",
-            .text = BoxLines(lines),
-            .icon = BoxIcon::Exclamation,
-            .buttons = {IDOK},
-            .defaultButton = IDOK};
-}
-
-class Commands : public testing::Test {
+class Commands : public CommandsTest {
   protected:
-    ZentarDriver& Open(const IniLines& settings = {}) {
-        home_.WriteIni(settings);
-        zentar_ = std::make_unique<ZentarDriver>(home_);
-        zentar_->ShowTab(1);
-        return *zentar_;
-    }
-
-    // Waits for a box, which must be that one, and answers it.
-    void Answer(const BoxContents& expected, int button) const {
-        const HWND box = zentar_->WaitForBox(expected.title);
-        EXPECT_EQ(zentar_->Read(box), expected);
-        AnswerBox(box, button);
-        zentar_->Settle();
-    }
+    ZentarDriver& Open(const IniLines& settings = {}) { return CommandsTest::Open(1, settings); }
 
     fs::path Demos() const { return home_.Games() / "Quake2" / "baseq2" / "demos"; }
     bool IsHere(const std::string& demo) const { return fs::exists(Demos() / Wide(demo + ".dm2")); }
     fs::path There(const std::string& demo) const { return home_.Remote() / Wide(demo + ".dm2"); }
-
-    static void MakeReadOnly(const fs::path& file) {
-        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    }
-
-    ZentarHome home_;
-    std::unique_ptr<ZentarDriver> zentar_;
 };
 
 TEST_F(Commands, DeleteAsksAndSelectsTheNextDemoIfSoPreferred) {
     const ZentarDriver& zentar = Open({"AutoNextDemo=1"});
     zentar.Choose(IDC_lstDemos, "campaign", 'D');
-    Answer(Question("Really delete this demo?"), IDNO);
+    Answer(Question({"Really delete this demo?"}), IDNO);
     EXPECT_TRUE(IsHere("campaign"));
     zentar.Choose(IDC_lstDemos, "campaign", 'D');
-    Answer(Question("Really delete this demo?"), IDYES);
+    Answer(Question({"Really delete this demo?"}), IDYES);
     EXPECT_FALSE(IsHere("campaign"));
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "edge final");
     EXPECT_SOON(zentar.Text(IDC_labDemoName), "Name: The Edge");
@@ -86,8 +40,8 @@ TEST_F(Commands, TheDeleteKeyAsksAboutAReadOnlyDemo) {
     const ZentarDriver& zentar = Open({"Expert=1"});
     MakeReadOnly(Demos() / "campaign.dm2");
     const BoxContents question =
-        ReadOnlyQuestion({"This demo couldn't be deleted due to being set as read-only.",
-                          "Would you like me to remove this setting to force the deletion?"});
+        FailureWithQuestion({"This demo couldn't be deleted due to being set as read-only.",
+                             "Would you like me to remove this setting to force the deletion?"});
     zentar.ClickItem(IDC_lstDemos, "campaign");
     zentar.PressKey(VK_DELETE);
     Answer(question, IDNO);
@@ -103,7 +57,7 @@ TEST_F(Commands, DeleteAllListedLeavesWhatTheFilterHides) {
         Open({"AutoShowAll=0", "DemosAll=0", "DemosText=True", "DemosFilter=Fred"});
     EXPECT_SOON(zentar.Items(IDC_lstDemos), (Lines{"edge final", "дуэль"}));
     zentar.Choose(IDC_lstDemos, "edge final", 'A');
-    Answer(Question("Really delete all listed demos?"), IDYES);
+    Answer(Question({"Really delete all listed demos?"}), IDYES);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 0 of 6.");
     EXPECT_TRUE(IsHere("campaign"));
     EXPECT_FALSE(IsHere("дуэль"));
@@ -176,21 +130,21 @@ TEST_F(Commands, CopyAndMoveAskAndCarryTheDemo) {
     const ZentarDriver& zentar = Open();
     const std::string bytes = ReadBytes(Demos() / "campaign.dm2");
     zentar.Choose(IDC_lstDemos, "campaign", 'C');
-    Answer(Question("Really copy this demo to this folder?"), IDYES);
+    Answer(Question({"Really copy this demo to this folder?"}), IDYES);
     EXPECT_SOON(ReadBytes(There("campaign")) == bytes, true);
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "campaign");
     MakeReadOnly(There("campaign"));
     zentar.Choose(IDC_lstDemos, "campaign", 'R');
-    Answer(Question("Really move this demo to this folder?"), IDYES);
-    Answer(Question("Demo already exists in Remote Folder -- Overwrite?"), IDYES);
+    Answer(Question({"Really move this demo to this folder?"}), IDYES);
+    Answer(Question({"Demo already exists in Remote Folder -- Overwrite?"}), IDYES);
     const BoxContents readOnly =
-        ReadOnlyQuestion({"Can't overwrite existing demo due to it being read-only.",
-                          "Would you like me to remove this setting to force the overwrite?"});
+        FailureWithQuestion({"Can't overwrite existing demo due to it being read-only.",
+                             "Would you like me to remove this setting to force the overwrite?"});
     Answer(readOnly, IDNO);
     EXPECT_TRUE(IsHere("campaign"));
     zentar.Choose(IDC_lstDemos, "campaign", 'R');
-    Answer(Question("Really move this demo to this folder?"), IDYES);
-    Answer(Question("Demo already exists in Remote Folder -- Overwrite?"), IDYES);
+    Answer(Question({"Really move this demo to this folder?"}), IDYES);
+    Answer(Question({"Demo already exists in Remote Folder -- Overwrite?"}), IDYES);
     Answer(readOnly, IDYES);
     EXPECT_SOON(IsHere("campaign"), false);
     EXPECT_TRUE(ReadBytes(There("campaign")) == bytes);
@@ -212,7 +166,7 @@ TEST_F(Commands, ARemoteFolderThatIsTheDemosOwnUnderAnotherNameLosesNothing) {
     const ZentarDriver& zentar = Open({"Expert=1", "Remote=" + drive.Root()});
     const std::string bytes = ReadBytes(Demos() / "edge final.dm2");
     zentar.Choose(IDC_lstDemos, "edge final", 'R');
-    Answer(Question("Demo already exists in Remote Folder -- Overwrite?"), IDYES);
+    Answer(Question({"Demo already exists in Remote Folder -- Overwrite?"}), IDYES);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 8 of 8.");
     EXPECT_TRUE(ReadBytes(Demos() / "edge final.dm2") == bytes);
 }
@@ -260,14 +214,6 @@ class Installer : public Commands {
         samples::DemoContents contents;
         contents.mod = mod;
         WriteBytes(Unzipped() / Wide(name), samples::MakeDemo(kind, contents));
-    }
-
-    static BoxContents Done(const Lines& lines, BoxIcon icon) {
-        return {.title = "Done",
-                .text = BoxLines(lines),
-                .icon = icon,
-                .buttons = {IDOK},
-                .defaultButton = IDOK};
     }
 };
 

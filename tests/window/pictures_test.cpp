@@ -52,5 +52,35 @@ TEST(Pictures, OfEveryTabAndDialog) {
     EXPECT_GT(TakePicture(preferences, "preferences"), kSmallestPicture);
 }
 
+TEST(Pictures, OfScreenshots) {
+    const ZentarHome home;
+    home.WriteIni();
+    const ZentarDriver zentar(home);
+    const HWND main = zentar.Main();
+    zentar.ClickItem(IDC_lstScreenshots, "quake01.tga");
+    EXPECT_GT(TakePicture(main, "shot in real mode"), kSmallestPicture);
+    const HWND popup = zentar.OpenPopup(IDC_lstScreenshots, "quake01.tga *");
+    EXPECT_GT(TakePicture(main, "shot popup"), kSmallestPicture);
+    zentar.ClosePopup(popup);
+    zentar.ClickItem(IDC_lstScreenshots, "wide.tga");
+    EXPECT_GT(TakePicture(main, "wide shot"), kSmallestPicture);
+    zentar.ClickOn(IDC_imgShotView);
+    const HWND viewer = zentar.WaitForWindow("ZentarForm", "Zentar - Screenshot");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(viewer, "viewer"), kSmallestPicture);
+    Press(VK_ESCAPE);
+    Eventually([viewer] { return IsWindowVisible(viewer) == FALSE; });
+    zentar.ClickOn(IDC_optModePreview);
+    zentar.ClickItem(IDC_lstScreenshots, "quake01.tga *");
+    EXPECT_GT(TakePicture(main, "shot in preview mode"), kSmallestPicture);
+    zentar.ClickItem(IDC_lstScreenshots, "quake00.tga");
+    EXPECT_GT(TakePicture(main, "shot without preview"), kSmallestPicture);
+    zentar.PressKey(VK_F2);
+    const HWND rename = zentar.WaitForWindow("ZentarForm", "Rename Screenshot");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(rename, "rename shot"), kSmallestPicture);
+    Press(VK_ESCAPE);
+}
+
 }  // namespace
 }  // namespace zentar::window_tests

@@ -2,8 +2,10 @@
 
 #include <wincodec.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <vector>
 
 #include "tests/window/text_conversion.h"
 
@@ -81,6 +83,38 @@ std::uintmax_t TakePicture(HWND window, const std::string& name) {
     CoUninitialize();
     DeleteObject(bitmap);
     return std::filesystem::file_size(file);
+}
+
+COLORREF PixelAt(POINT place) {
+    const HDC screen = GetDC(nullptr);
+    const COLORREF colour = GetPixel(screen, place.x, place.y);
+    ReleaseDC(nullptr, screen);
+    return colour;
+}
+
+int CountPixels(HWND window, COLORREF colour) {
+    constexpr int kNear = 40;
+    RECT area{};
+    GetWindowRect(window, &area);
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    const HBITMAP bitmap = CopyScreen(area);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    std::vector<RGBQUAD> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    const HDC screen = GetDC(nullptr);
+    GetDIBits(screen, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    DeleteObject(bitmap);
+    return static_cast<int>(std::count_if(pixels.begin(), pixels.end(), [&](const RGBQUAD& pixel) {
+        return std::abs(pixel.rgbRed - GetRValue(colour)) <= kNear &&
+               std::abs(pixel.rgbGreen - GetGValue(colour)) <= kNear &&
+               std::abs(pixel.rgbBlue - GetBValue(colour)) <= kNear;
+    }));
 }
 
 }  // namespace zentar::window_tests

@@ -13,4 +13,10 @@ namespace zentar::window_tests {
 // Gives the length of the file.
 std::uintmax_t TakePicture(HWND window, const std::string& name);
 
+// The colour of one pixel of the screen.
+COLORREF PixelAt(POINT place);
+
+// How many pixels of a window on the screen are of that colour, or nearly so.
+int CountPixels(HWND window, COLORREF colour);
+
 }  // namespace zentar::window_tests

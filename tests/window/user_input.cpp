@@ -81,6 +81,17 @@ void PressWith(WORD modifier, WORD key) {
     SendKey(modifier, 0, KEYEVENTF_KEYUP);
 }
 
+void HoldKey(WORD key) { SendKey(key, 0, 0); }
+
+void ReleaseKey(WORD key) { SendKey(key, 0, KEYEVENTF_KEYUP); }
+
+void HoldButton(POINT place) {
+    MovePointer(place);
+    SendMouse(MOUSEEVENTF_LEFTDOWN);
+}
+
+void ReleaseButton() { SendMouse(MOUSEEVENTF_LEFTUP); }
+
 void Type(const std::string& text) {
     for (const wchar_t letter : Wide(text)) {
         SendKey(0, letter, KEYEVENTF_UNICODE);

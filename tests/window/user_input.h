@@ -19,6 +19,12 @@ void DoubleClick(POINT place);
 
 void Press(WORD key);
 void PressWith(WORD modifier, WORD key);
+// Keeps a key down, and lets it go.
+void HoldKey(WORD key);
+void ReleaseKey(WORD key);
+// Keeps the left button down at a place, moves to others, and lets it go.
+void HoldButton(POINT place);
+void ReleaseButton();
 void Type(const std::string& text);
 
 }  // namespace zentar::window_tests

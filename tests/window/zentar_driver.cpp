@@ -9,6 +9,7 @@
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
+#include "ui/form_tables.h"
 #include "ui/resource.h"
 
 namespace zentar::window_tests {
@@ -231,6 +232,24 @@ void ZentarDriver::ClosePopup(HWND popup) const {
 void ZentarDriver::Choose(int listBox, const std::string& item, char letter) const {
     const HWND popup = OpenPopup(listBox, item);
     Press(static_cast<WORD>(letter));
+    Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
+}
+
+void ZentarDriver::ChooseCommand(int listBox, const std::string& item, int command) const {
+    WalkTo(OpenPopup(listBox, item), command);
+}
+
+void ZentarDriver::WalkTo(HWND popup, int command) const {
+    const auto menus = MainWindowTable().menus;
+    const auto wanted = std::find_if(menus.begin(), menus.end(),
+                                     [command](const MenuRow& row) { return row.id == command; });
+    for (auto row = menus.begin(); row != wanted; ++row) {
+        if (row->parent == wanted->parent && row->kind != MenuKind::Separator) {
+            Press(VK_DOWN);
+        }
+    }
+    Press(VK_DOWN);
+    Press(VK_RETURN);
     Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
 }
 

@@ -74,6 +74,11 @@ class ZentarDriver {
     // Opens the popup menu on an entry and picks a command by the letter that its caption
     // underlines.
     void Choose(int listBox, const std::string& item, char letter) const;
+    // The same with the arrow keys, by the command's number: for menus that underline a letter
+    // twice.
+    void ChooseCommand(int listBox, const std::string& item, int command) const;
+    // Walks down an opened popup menu of the main window to a command, and picks it.
+    void WalkTo(HWND popup, int command) const;
 
     // Closes the main window as its close button does. The exit code, or -1 if it does not end.
     int Close();

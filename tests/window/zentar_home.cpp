@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "samples/sample_games.h"
+#include "tests/window/image_library_file.h"
 #include "tests/window/text_conversion.h"
 
 namespace zentar::window_tests {
@@ -41,6 +42,7 @@ ZentarHome::ZentarHome(int extraDemos) : top_(NewFolder()) {
     fs::create_directories(Program());
     fs::create_directories(Remote());
     fs::copy_file(BuildFolder() / "zentar.exe", Program() / "zentar.exe");
+    PutImageLibraryInPlace();
     samples::WriteSampleGames(
         Games(), {.standin = BuildFolder() / "standin_game.exe", .extraDemos = extraDemos});
 }

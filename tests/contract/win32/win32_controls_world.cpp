@@ -7,8 +7,10 @@
 #include <chrono>
 #include <map>
 
+#include "platform/win32/win32_bitmap.h"
 #include "platform/win32/win32_handle.h"
 #include "tests/contract/controls_contract.h"
+#include "tests/contract/full_screen_contract.h"
 #include "tests/contract/win32/the_platform.h"
 #include "tests/contract/win32/win32_user.h"
 
@@ -23,7 +25,8 @@ constexpr auto kPatience = std::chrono::seconds(20);
 constexpr DWORD kQuietMilliseconds = 60;
 
 WPARAM VirtualKeyOf(Key key) {
-    constexpr WPARAM kKeys[] = {VK_F1, VK_F2, VK_F5, VK_DELETE, VK_BACK, VK_RETURN};
+    constexpr WPARAM kKeys[] = {VK_F1,   VK_F2,     VK_F5,    VK_DELETE,
+                                VK_BACK, VK_RETURN, VK_SPACE, VK_ESCAPE};
     return kKeys[static_cast<std::size_t>(key)];
 }
 
@@ -127,6 +130,27 @@ class Win32ControlsWorld : public ControlsWorld {
         Settle();
     }
 
+    void RightClick(Form& form, int id) override {
+        PostRightClick(Of(form, id), MiddleOf(Of(form, id)));
+        Settle();
+    }
+    void DoubleClick(Form& form, int id) override {
+        PostDoubleClick(Of(form, id), MiddleOf(Of(form, id)));
+        Settle();
+    }
+    void PressMouse(Form& form, int id, MouseButton button, Point at) override {
+        PostPress(Of(form, id), button == MouseButton::Left, {at.x, at.y});
+        Settle();
+    }
+    void DragMouse(Form& form, int id, Point to) override {
+        PostMove(Of(form, id), {to.x, to.y});
+        Settle();
+    }
+    void ReleaseMouse(Form& form, int id) override {
+        PostRelease(Of(form, id), {0, 0});
+        Settle();
+    }
+
     void PickFromPopup(Form& form, int downs, int /*id*/) override {
         InPopup(form, [downs](HWND top) {
             for (int i = 0; i < downs; ++i)
@@ -171,6 +195,8 @@ class Win32ControlsWorld : public ControlsWorld {
         return MulDiv(corner.y, 96 * 15, dpi);
     }
 
+    BitmapPtr MakeBitmap(Size size) override { return Win32Bitmap::Make(size); }
+
   private:
     HWND Top(Form& form) const { return windows_.at(&form); }
     HWND Of(Form& form, int id) const { return FindControlWindow(Top(form), id); }
@@ -200,5 +226,7 @@ INSTANTIATE_TEST_SUITE_P(Win32, TextAndListContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FocusContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FormContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, LooksContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, ImageControlsContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, FullScreenContract, kWin32);
 
 }  // namespace zentar

@@ -76,6 +76,42 @@ TEST(Win32WindowServices, AKeyThatIsHeldWasPressedOnlyOnce) {
     EXPECT_EQ(Windows().KeyState(PollKey::Shift) & 0x8000, 0);
 }
 
+TEST(Win32WindowServices, AskingWhetherAKeyIsDownTakesNothingFromItsState) {
+    static_cast<void>(Windows().KeyState(PollKey::Shift));
+    EXPECT_FALSE(Windows().IsDown(PollKey::Shift));
+    keybd_event(VK_SHIFT, 0, 0, 0);
+    // The state is that of the input that was taken off the queue.
+    Windows().PumpPending();
+    EXPECT_TRUE(Windows().IsDown(PollKey::Shift));
+    EXPECT_FALSE(Windows().IsDown(PollKey::Control));
+    EXPECT_EQ(Windows().KeyState(PollKey::Shift), 0x8001);
+    EXPECT_TRUE(Windows().IsDown(PollKey::Shift));
+    keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+    Windows().PumpPending();
+    EXPECT_FALSE(Windows().IsDown(PollKey::Shift));
+}
+
+TEST(Win32WindowServices, SleepingTakesItsTimeAndHandlesNoMessage) {
+    int ticks = 0;
+    static int* counter = nullptr;
+    counter = &ticks;
+    const UINT_PTR timer =
+        SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) { ++*counter; });
+    // The system's clock may tick between the two by a step less.
+    constexpr ULONGLONG kStep = 20;
+    const ULONGLONG before = GetTickCount64();
+    Windows().Sleep(100);
+    EXPECT_GE(GetTickCount64() - before, 100 - kStep);
+    EXPECT_EQ(ticks, 0);
+    // The timer was only waiting for that.
+    for (int i = 0; i < 100 && ticks == 0; ++i) {
+        Windows().PumpPending();
+        ::Sleep(10);
+    }
+    EXPECT_GT(ticks, 0);
+    KillTimer(nullptr, timer);
+}
+
 TEST(Win32WindowServices, AWindowIsFoundByExactlyItsTitle) {
     const UniqueWindow window(CreateWindowExW(0, L"STATIC", L"Zentar: тест", WS_POPUP, 0, 0, 10, 10,
                                               nullptr, nullptr, nullptr, nullptr));

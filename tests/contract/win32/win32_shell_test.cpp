@@ -15,6 +15,7 @@
 #include "platform/win32/win32_text.h"
 #include "platform/window_services.h"
 #include "tests/contract/file_system_contract.h"
+#include "tests/contract/win32/picture_files.h"
 #include "tests/contract/win32/the_platform.h"
 
 namespace zentar {
@@ -104,10 +105,47 @@ class Win32ProgramStart : public testing::Test {
 }  // namespace
 
 TEST(Win32Shell, TheSystemsFoldersAreThereWithoutABackslash) {
-    for (const std::string& folder : {TheShell().ProgramFolder(), TheShell().WindowsFolder()}) {
+    for (const std::string& folder :
+         {TheShell().ProgramFolder(), TheShell().WindowsFolder(), TheShell().TemporaryFolder()}) {
         EXPECT_TRUE(ThePlatform().Services().files.Info(folder).ValueOr({}).isFolder) << folder;
         EXPECT_EQ(folder.ends_with('\\'), folder.size() == 3) << folder;
     }
+}
+
+TEST(Win32Shell, TheWallpaperIsTheFileThatWasNamedLast) {
+    wchar_t before[MAX_PATH] = L"";
+    SystemParametersInfoW(SPI_GETDESKWALLPAPER, MAX_PATH, before, 0);
+    const TestFolder folder;
+    const std::string path = folder.Write("[Zentar] дуэль.bmp", BmpOf({64, 48}));
+    EXPECT_TRUE(Succeeded(TheShell().SetWallpaper(path)));
+    wchar_t now[MAX_PATH] = L"";
+    EXPECT_TRUE(SystemParametersInfoW(SPI_GETDESKWALLPAPER, MAX_PATH, now, 0));
+    EXPECT_EQ(Narrow(now), path);
+    wchar_t kept[MAX_PATH] = L"";
+    DWORD bytes = sizeof kept;
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"Wallpaper",
+                           RRF_RT_REG_SZ, nullptr, kept, &bytes),
+              ERROR_SUCCESS);
+    EXPECT_EQ(Narrow(kept), path);
+    EXPECT_TRUE(
+        FailedWith(TheShell().SetWallpaper(folder.Name() + "\\none.bmp"), FileError::NotFound));
+    EXPECT_TRUE(FailedWith(TheShell().SetWallpaper("none.bmp"), FileError::BadName));
+    SystemParametersInfoW(SPI_GETDESKWALLPAPER, MAX_PATH, now, 0);
+    EXPECT_EQ(Narrow(now), path);
+    SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, before, SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
+}
+
+// What exists is not touched here: the system would ask the user.
+TEST(Win32Shell, WhatIsNotThereIsNeitherCopiedNorDeletedByAnAdministrator) {
+    const TestFolder folder;
+    const std::string missing = folder.Name() + "\\missing.bmp";
+    const std::string copy = folder.Name() + "\\copy.bmp";
+    EXPECT_FALSE(TheShell().CopyElevated(missing, copy).Ok());
+    EXPECT_FALSE(TheShell().DeleteElevated({missing}).Ok());
+    EXPECT_TRUE(FailedWith(TheShell().CopyElevated("missing.bmp", copy), FileError::BadName));
+    EXPECT_TRUE(FailedWith(TheShell().CopyElevated(missing, "copy.bmp"), FileError::BadName));
+    EXPECT_TRUE(FailedWith(TheShell().DeleteElevated({"missing.bmp"}), FileError::BadName));
+    EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
 TEST(Win32Shell, OnlyWebAddressesAreOpened) {

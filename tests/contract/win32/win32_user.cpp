@@ -133,6 +133,13 @@ void PostDoubleClick(HWND window, POINT at) {
     Post(window, WM_LBUTTONUP, 0, At(at));
 }
 
+void PostPress(HWND window, bool left, POINT at) {
+    EXPECT_TRUE(MouseReaches(window)) << "no button goes down on control " << GetDlgCtrlID(window);
+    Post(window, left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN, left ? MK_LBUTTON : MK_RBUTTON, At(at));
+}
+
+void PostRelease(HWND window, POINT at) { Post(window, WM_LBUTTONUP, 0, At(at)); }
+
 void PostRightClick(HWND window, POINT at) {
     EXPECT_TRUE(MouseReaches(window)) << "a click cannot reach control " << GetDlgCtrlID(window);
     POINT screen = at;

@@ -24,6 +24,9 @@ bool MouseReaches(HWND window);
 void PostMove(HWND window, POINT at);
 void PostClick(HWND window, POINT at);
 void PostDoubleClick(HWND window, POINT at);
+// The left or the right button goes down; the left one comes up.
+void PostPress(HWND window, bool left, POINT at);
+void PostRelease(HWND window, POINT at);
 // Moves the real pointer there as well.
 void PostRightClick(HWND window, POINT at);
 void PostKey(HWND window, WPARAM virtualKey);

@@ -55,6 +55,27 @@ TEST(CaptionsTest, OfTheTabsInTheirOrder) {
               (std::vector<std::string>{" Shots", " Demos", " Misc", " Q3 Text", " First Aid"}));
 }
 
+TEST(CaptionsTest, OfTheShotsTab) {
+    ExpectWording(MainWindowTable(),
+                  {
+                      {IDC_lstScreenshots, "", ""},
+                      {IDC_labNumShots, "Total: 0  (tga=0,  jpg=0,  pcx=0).",
+                       "Shows the number of screenshots listed above."},
+                      {IDC_imgShotView, "", ""},
+                      {IDC_fraPreviewMode, "", ""},
+                      {IDC_labPreviewMode, "View mode:", ""},
+                      {IDC_optModePreview, "Preview.",
+                       "If selected, the screenshot's preview image (if available) is shown only."},
+                      {IDC_optModeReal, "Real.",
+                       "If selected, the actual screenshot itself is loaded for viewing."},
+                  });
+}
+
+TEST(CaptionsTest, OfTheFullSizeViewer) {
+    EXPECT_STREQ(FullViewTable().caption, "Zentar - Screenshot");
+    ExpectWording(FullViewTable(), {{IDC_picFull, "", ""}});
+}
+
 TEST(CaptionsTest, OfTheDemosTab) {
     ExpectWording(
         MainWindowTable(),
@@ -140,6 +161,28 @@ TEST(CaptionsTest, OfTheMenusInTheirOrder) {
                                                 "&Help Topics",
                                                 "-",
                                                 "&About Zentar",
+                                                "Screenshot",
+                                                "&Show Actual Screenshot",
+                                                "Show Shot &Properties",
+                                                "-",
+                                                "Make &JPG And Keep Original",
+                                                "Make JPG And &Kill Original",
+                                                "Set As System &Wallpaper",
+                                                "-",
+                                                "&Delete This Screenshot",
+                                                "Delete Preview &Image",
+                                                "Rena&me This Screenshot",
+                                                "&Copy To Remote Folder",
+                                                "Move To &Remote Folder",
+                                                "-",
+                                                "Delete Wallpaper &Images",
+                                                "Delete &All Images/Shots",
+                                                "Delete All Pre&view Images",
+                                                "Delete All &JPG Images",
+                                                "Delete All &TGA Shots",
+                                                "Delete All PC&X Shots",
+                                                "-",
+                                                "Re&fresh List",
                                                 "Demos",
                                                 "&Play This Demo",
                                                 "-",

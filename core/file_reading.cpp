@@ -1,0 +1,31 @@
+#include "core/file_reading.h"
+
+#include <memory>
+#include <span>
+
+namespace zentar {
+
+Result<std::string> ReadWholeFile(FileSystem& files, const std::string& path, std::uint64_t most) {
+    const Result<std::unique_ptr<ReadableFile>> file = files.OpenForReading(path);
+    if (!file.Ok()) {
+        return file.Error();
+    }
+    const Result<std::uint64_t> length = file.Value()->Length();
+    if (!length.Ok()) {
+        return length.Error();
+    }
+    if (length.Value() > most) {
+        return FileError::NoSpace;
+    }
+    std::string bytes(static_cast<std::size_t>(length.Value()), '\0');
+    const Result<std::size_t> got =
+        file.Value()->ReadAt(0, std::as_writable_bytes(std::span(bytes)));
+    if (!got.Ok()) {
+        return got.Error();
+    }
+    // It may have become shorter since.
+    bytes.resize(got.Value());
+    return bytes;
+}
+
+}  // namespace zentar

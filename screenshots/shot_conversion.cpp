@@ -1,0 +1,139 @@
+#include "screenshots/shot_conversion.h"
+
+#include <utility>
+
+#include "core/file_copy.h"
+#include "core/file_name.h"
+#include "core/hourglass.h"
+#include "core/questions.h"
+#include "platform/file_system.h"
+#include "platform/image_library.h"
+#include "platform/locale.h"
+#include "platform/pictures.h"
+#include "screenshots/picture_file.h"
+#include "screenshots/shot_messages.h"
+#include "screenshots/shot_name.h"
+
+namespace zentar {
+namespace {
+
+constexpr int kJpgQuality = 80;
+
+// Holds nothing that anybody needs after a power cut.
+bool WriteScratch(FileSystem& files, const std::string& path, const std::string& bytes) {
+    const auto file = files.OpenForWriting(path, WriteMode::Truncate);
+    return file.Ok() && file.Value()->Write(bytes).Ok() && file.Value()->Close().Ok();
+}
+
+bool IsSameFileStill(FileSystem& files, const std::string& path, const FileInfo& before) {
+    const Result<FileInfo> now = files.Info(path);
+    return now.Ok() && now.Value().length == before.length &&
+           now.Value().lastWrite == before.lastWrite;
+}
+
+std::string Unfinished(const std::string& jpg) { return jpg + ".new"; }
+
+}  // namespace
+
+void ShotConversion::mnuScreenshotMakeJPEGAndKill_Click() {
+    if (list_.CurrentShot().Name.empty()) {
+        return;
+    }
+    // No keeps the original, and converts all the same.
+    KillOriginal_ = Confirmed(state_, platform_.windows, messages::ReallyKillOriginal());
+    mnuScreenshotMakeJPEGOnly_Click();
+}
+
+void ShotConversion::mnuScreenshotMakeJPEGOnly_Click() {
+    const Shot shot = list_.CurrentShot();
+    const ActualShot actual = list_.picShotActual();
+    if (shot.Name.empty()) {
+        return;
+    }
+    const std::string jpg = std::string(FolderOf(shot.Path)) + JpgNameOf(shot.Name);
+    const std::string game = state_.settings.Game;
+    const bool overwrites = platform_.files.Info(jpg).Ok();
+    if (overwrites && !(Confirmed(state_, platform_.windows, messages::ReallyOverwriteJpg()) &&
+                        MayChangeFile(platform_, jpg, messages::OverwriteReadOnlyJpg()))) {
+        return;
+    }
+    bool made = false;
+    {
+        const Hourglass hourglass(platform_.windows);
+        made = MakeJpg(shot, actual.picture, jpg) && PutInPlace(jpg, overwrites || KillOriginal_);
+    }
+    const bool kills = std::exchange(KillOriginal_, false);
+    if (!made) {
+        platform_.windows.Ask(messages::JpgNotMade(game));
+        return;
+    }
+    const Result<FileInfo> jpgInfo = platform_.files.Info(jpg);
+    if (kills && DeleteOriginal(shot, actual.file) == OriginalOutcome::NotDeletable) {
+        platform_.windows.Ask(messages::OriginalNotKilled(game));
+    }
+    {
+        const Hourglass hourglass(platform_.windows);
+        list_.RefreshAndSelect(JpgNameOf(shot.Name));
+    }
+    platform_.windows.Ask(messages::JpgDone(actual.file.length,
+                                            jpgInfo.Ok() ? jpgInfo.Value().length : 0,
+                                            platform_.locale.ThousandsSeparator()));
+}
+
+// Makes it under a temporary name.
+bool ShotConversion::MakeJpg(const Shot& shot, const BitmapPtr& picture, const std::string& jpg) {
+    if (!picture) {
+        return false;
+    }
+    MakeCurrentImage(shot, *picture);
+    const bool saved = platform_.library.SaveAsJpg(kJpgQuality, Unfinished(jpg));
+    if (!saved) {
+        // What is left of it is of no use to anybody; usually nothing is.
+        IgnoreFailure(platform_.files.Delete(Unfinished(jpg)));
+    }
+    return saved;
+}
+
+// When something goes for it, an older JPG or the original, the new one must be such that it can be
+// seen and outlives a power cut.
+bool ShotConversion::PutInPlace(const std::string& jpg, bool somethingGoes) {
+    const std::string unfinished = Unfinished(jpg);
+    const Result<FileInfo> info = platform_.files.Info(unfinished);
+    const bool whole = info.Ok() && info.Value().length > 0;
+    const bool lasts = !somethingGoes || (ReadPicture(platform_, unfinished) != nullptr &&
+                                          IsOnDisk(platform_.files, unfinished, false));
+    if (whole && lasts && platform_.files.Replace(unfinished, jpg).Ok()) {
+        return true;
+    }
+    IgnoreFailure(platform_.files.Delete(unfinished));  // of no use to anybody
+    return false;
+}
+
+// The library encodes what it loaded last, so the picture goes by way of a file. A program folder
+// that takes none leaves the shot's own file.
+void ShotConversion::MakeCurrentImage(const Shot& shot, const Bitmap& picture) {
+    const std::string scratch = state_.ProgramFolder + "tmp.bmp";
+    const Result<std::string> bytes = platform_.pictures.EncodeBmp(picture);
+    const bool written = bytes.Ok() && WriteScratch(platform_.files, scratch, bytes.Value());
+    const bool loaded = written && platform_.library.Load(scratch) != nullptr;
+    // It is not there when the program folder is protected.
+    IgnoreFailure(platform_.files.Delete(scratch));
+    if (!loaded) {
+        // One that cannot be loaded either makes the encoding fail, which is told.
+        platform_.library.Load(shot.Path);
+    }
+}
+
+// Deletes the original unless it is no longer what was converted.
+OriginalOutcome ShotConversion::DeleteOriginal(const Shot& shot, const FileInfo& converted) {
+    if (!IsSameFileStill(platform_.files, shot.Path, converted)) {
+        return OriginalOutcome::NotDeletable;
+    }
+    if (!MayChangeFile(platform_, shot.Path, messages::DeleteReadOnlyShot())) {
+        return OriginalOutcome::KeptByUser;
+    }
+    return platform_.files.Delete(shot.Path).Ok() ? OriginalOutcome::Gone
+                                                  : OriginalOutcome::NotDeletable;
+}
+
+}  // namespace zentar

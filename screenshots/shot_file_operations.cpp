@@ -1,0 +1,187 @@
+#include "screenshots/shot_file_operations.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+#include "core/file_name.h"
+#include "core/hourglass.h"
+#include "core/messages.h"
+#include "core/questions.h"
+#include "core/text.h"
+#include "platform/file_system.h"
+#include "screenshots/shot_messages.h"
+#include "screenshots/shot_name.h"
+
+namespace zentar {
+void ShotFileOperations::mnuScreenshotDelete_Click() {
+    const Shot shot = list_.CurrentShot();
+    if (shot.Name.empty() || !Confirmed(state_, platform_.windows, messages::ReallyDeleteShot())) {
+        return;
+    }
+    const std::string neighbour = NeighbourOf(shot.Name);
+    if (!MayChangeFile(platform_, shot.Path, messages::DeleteReadOnlyShot())) {
+        return;
+    }
+    // Hidden ones go, too. What refuses that refuses the deletion.
+    IgnoreFailure(platform_.files.ClearAttributes(shot.Path));
+    // A shot that stays, since a program holds it, is seen in the list.
+    const Status deleted = platform_.files.Delete(shot.Path);
+    if (deleted.Ok() || deleted.Error() == FileError::NotFound) {
+        DeletePreviewOf(shot.Path);
+    }
+    if (state_.settings.AutoNextShot == 1 && !neighbour.empty()) {
+        list_.RefreshAndSelect(neighbour);
+    } else {
+        list_.RefreshScreenshotList();
+    }
+}
+
+// The entry after it, or before it if it is the last one; empty when it is the only one.
+std::string ShotFileOperations::NeighbourOf(const std::string& shot) const {
+    const std::vector<std::string> shots = list_.ListedShots();
+    const auto at = std::find(shots.begin(), shots.end(), shot);
+    if (at == shots.end() || shots.size() == 1) {
+        return {};
+    }
+    return at + 1 == shots.end() ? *(at - 1) : *(at + 1);
+}
+
+// One that cannot go is of no harm: it shows what the shot was.
+void ShotFileOperations::DeletePreviewOf(const std::string& shotPath) {
+    IgnoreFailure(platform_.files.Delete(PreviewNameOf(shotPath)));
+}
+
+void ShotFileOperations::mnuScreenshotDeletePreview_Click() {
+    const Shot shot = list_.CurrentShot();
+    if (shot.Name.empty() || !shot.HasPreview ||
+        !Confirmed(state_, platform_.windows, messages::ReallyDeletePreview())) {
+        return;
+    }
+    const std::string preview = PreviewNameOf(shot.Path);
+    if (!MayChangeFile(platform_, preview, messages::DeleteReadOnlyPreview())) {
+        return;
+    }
+    IgnoreFailure(platform_.files.ClearAttributes(preview));
+    // One that stays is seen by its marker.
+    IgnoreFailure(platform_.files.Delete(preview));
+    list_.RefreshAndReselect(shot.Name);
+}
+
+void ShotFileOperations::DeleteAll(const Sweep& sweep) {
+    if (!Confirmed(state_, platform_.windows, sweep.question)) {
+        return;
+    }
+    const std::string folder = list_.ListedFolder();
+    std::vector<FolderEntry> found;
+    const auto collect = [&](const FolderEntry& entry) {
+        if (!entry.info.isFolder && sweep.isMeant(entry.name)) {
+            found.push_back(entry);
+        }
+    };
+    // Without the folder there is nothing to delete.
+    IgnoreFailure(platform_.files.Enumerate(folder, collect));
+    const auto isReadOnly = [](const FolderEntry& entry) { return entry.info.readOnly; };
+    // Of those that are read-only it asks once: nobody wants to answer a thousand times.
+    if (std::any_of(found.begin(), found.end(), isReadOnly) &&
+        platform_.windows.Ask(sweep.readOnlyQuestion) != Answer::Yes) {
+        std::erase_if(found, isReadOnly);
+    }
+    {
+        const Hourglass hourglass(platform_.windows);
+        for (const FolderEntry& entry : found) {
+            const std::string path = folder + entry.name;
+            IgnoreFailure(platform_.files.ClearAttributes(path));
+            // What stays, since a program holds it, is seen in the list.
+            if (platform_.files.Delete(path).Ok() && sweep.afterwards) {
+                sweep.afterwards(path);
+            }
+        }
+    }
+    list_.RefreshScreenshotList();
+}
+
+void ShotFileOperations::mnuScreenshotDeleteAll_Click() {
+    DeleteAll({.question = messages::ReallyDeleteAllShots(),
+               .isMeant = [](std::string_view name) { return IsShot(name) || IsPreview(name); },
+               .readOnlyQuestion = messages::DeleteReadOnlyShot(),
+               .afterwards = {}});
+}
+
+void ShotFileOperations::mnuScreenshotDeleteAllPreview_Click() {
+    DeleteAll({.question = messages::ReallyDeleteAllPreviews(),
+               .isMeant = IsPreview,
+               .readOnlyQuestion = messages::DeleteReadOnlyPreview(),
+               .afterwards = {}});
+}
+
+void ShotFileOperations::mnuScreenshotDeleteAllTGA_Click() {
+    DeleteAll({.question = messages::ReallyDeleteAllTga(),
+               .isMeant = [](std::string_view name) { return ShotExtension(name) == ".tga"; },
+               .readOnlyQuestion = messages::DeleteReadOnlyShot(),
+               .afterwards = [this](const std::string& path) { DeletePreviewOf(path); }});
+}
+
+void ShotFileOperations::mnuScreenshotDeleteAllPCX_Click() {
+    DeleteAll({.question = messages::ReallyDeleteAllPcx(),
+               .isMeant = [](std::string_view name) { return ShotExtension(name) == ".pcx"; },
+               .readOnlyQuestion = messages::DeleteReadOnlyShot(),
+               .afterwards = [this](const std::string& path) { DeletePreviewOf(path); }});
+}
+
+void ShotFileOperations::mnuScreenshotDeleteAllJPG_Click() {
+    DeleteAll({.question = messages::ReallyDeleteAllJpg(),
+               .isMeant = [](std::string_view name) { return ShotExtension(name) == ".jpg"; },
+               .readOnlyQuestion = messages::DeleteReadOnlyShot(),
+               .afterwards = [this](const std::string& path) { DeletePreviewOfJpg(path); }});
+}
+
+// The preview of a PCX shot lives on. That of a TGA shot does not, and is made anew when the shot
+// is viewed.
+void ShotFileOperations::DeletePreviewOfJpg(const std::string& jpgPath) {
+    const Result<FileInfo> pcx = platform_.files.Info(std::string(BaseNameOf(jpgPath)) + ".pcx");
+    if (!pcx.Ok() || pcx.Value().length == 0) {
+        DeletePreviewOf(jpgPath);
+    }
+}
+
+void ShotFileOperations::mnuScreenshotRename_Click() {
+    const Shot shot = list_.CurrentShot();
+    if (shot.Name.empty()) {
+        return;
+    }
+    const std::string base(BaseNameOf(shot.Name));
+    const std::string name =
+        platform_.windows.AskText(messages::EnterNewShotName(base)).value_or("");
+    if (name.empty() || name == base) {
+        return;
+    }
+    if (name.size() > kLongestFileName) {
+        platform_.windows.Ask(messages::ShotNotRenamed(FileError::BadName));
+    } else if (ValidateFileName(platform_.windows, name)) {
+        Rename(shot, name);
+    }
+}
+
+void ShotFileOperations::Rename(const Shot& shot, const std::string& name) {
+    const std::string folder(FolderOf(shot.Path));
+    const std::string renamed = name + std::string(shot.Name.substr(BaseNameOf(shot.Name).size()));
+    const Status done = platform_.files.Rename(shot.Path, folder + renamed);
+    if (!done.Ok()) {
+        platform_.windows.Ask(messages::ShotNotRenamed(done.Error()));
+        if (done.Error() == FileError::NotFound) {
+            list_.RefreshScreenshotList();  // it is out of date
+        }
+        return;
+    }
+    const std::string preview = PreviewNameOf(shot.Path);
+    const std::string newPreview = folder + PreviewNameOf(renamed);
+    // Usually there is none of the new name. A preview that cannot be renamed is made anew when
+    // the shot is viewed.
+    if (!platform_.files.Rename(preview, newPreview).Ok() && platform_.files.Info(preview).Ok()) {
+        IgnoreFailure(platform_.files.Replace(preview, newPreview));
+    }
+    list_.RefreshAndReselect(renamed);
+}
+
+}  // namespace zentar

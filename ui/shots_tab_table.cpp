@@ -1,0 +1,125 @@
+#include "ui/shots_tab_table.h"
+
+#include "ui/resource.h"
+
+namespace zentar {
+namespace {
+
+constexpr std::uint8_t kGrowDown = AnchorTopLeft | AnchorBottom;
+constexpr std::uint8_t kBottomLeft = AnchorBottom | AnchorLeft;
+
+const ControlRow kRows[] = {
+    {.id = IDC_lstScreenshots,
+     .kind = ControlKind::ListBox,
+     .parent = IDC_pagShots,
+     .rect = {10, 10, 190, 414},
+     .anchors = kGrowDown,
+     .flags = StartsDisabled | StartsGrey,
+     .name = "Screenshots"},
+    {.id = IDC_labNumShots,
+     .kind = ControlKind::Label,
+     .parent = IDC_pagShots,
+     .rect = {10, 434, 300, 18},
+     .anchors = kBottomLeft,
+     .caption = "Total: 0  (tga=0,  jpg=0,  pcx=0).",
+     .tooltip = "Shows the number of screenshots listed above.",
+     .flags = StartsDisabled},
+    {.id = IDC_imgShotView,
+     .kind = ControlKind::ImageBox,
+     .parent = IDC_pagShots,
+     .rect = {212, 10, 374, 414},
+     .anchors = AnchorAll,
+     .flags = StartsDisabled,
+     .name = "Screenshot",
+     .cursor = IDC_CURSOR_FULLVIEW},
+    {.id = IDC_fraPreviewMode,
+     .kind = ControlKind::Frame,
+     .parent = IDC_pagShots,
+     .rect = {326, 430, 260, 24},
+     .anchors = AnchorBottom | AnchorRight,
+     .flags = Borderless},
+    {.id = IDC_labPreviewMode,
+     .kind = ControlKind::Label,
+     .parent = IDC_fraPreviewMode,
+     .rect = {0, 4, 84, 18},
+     .caption = "View mode:"},
+    {.id = IDC_optModePreview,
+     .kind = ControlKind::OptionButton,
+     .parent = IDC_fraPreviewMode,
+     .rect = {90, 2, 90, 20},
+     .caption = "Preview.",
+     .tooltip = "If selected, the screenshot's preview image (if available) is shown only."},
+    {.id = IDC_optModeReal,
+     .kind = ControlKind::OptionButton,
+     .parent = IDC_fraPreviewMode,
+     .rect = {184, 2, 76, 20},
+     .caption = "Real.",
+     .tooltip = "If selected, the actual screenshot itself is loaded for viewing.",
+     .flags = StartsChecked},
+};
+
+// What works on the selected screenshot waits for one.
+const MenuRow kMenu[] = {
+    {.id = IDM_mnuScreenshot, .kind = MenuKind::Popup, .caption = "Screenshot"},
+    {.id = IDM_mnuScreenshotShowFull,
+     .parent = IDM_mnuScreenshot,
+     .caption = "&Show Actual Screenshot",
+     .startsDisabled = true},
+    {.id = IDM_mnuScreenshotProperties,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Show Shot &Properties"},
+    {.kind = MenuKind::Separator, .parent = IDM_mnuScreenshot},
+    {.id = IDM_mnuScreenshotMakeJPEGOnly,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Make &JPG And Keep Original",
+     .startsDisabled = true},
+    {.id = IDM_mnuScreenshotMakeJPEGAndKill,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Make JPG And &Kill Original",
+     .startsDisabled = true},
+    {.id = IDM_mnuScreenshotSetWallpaper,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Set As System &Wallpaper",
+     .startsDisabled = true},
+    {.kind = MenuKind::Separator, .parent = IDM_mnuScreenshot},
+    {.id = IDM_mnuScreenshotDelete,
+     .parent = IDM_mnuScreenshot,
+     .caption = "&Delete This Screenshot"},
+    {.id = IDM_mnuScreenshotDeletePreview,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete Preview &Image"},
+    {.id = IDM_mnuScreenshotRename,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Rena&me This Screenshot"},
+    {.id = IDM_mnuScreenshotCopy, .parent = IDM_mnuScreenshot, .caption = "&Copy To Remote Folder"},
+    {.id = IDM_mnuScreenshotMove, .parent = IDM_mnuScreenshot, .caption = "Move To &Remote Folder"},
+    {.kind = MenuKind::Separator, .parent = IDM_mnuScreenshot},
+    {.id = IDM_mnuScreenshotDeleteAllWallpaper,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete Wallpaper &Images"},
+    {.id = IDM_mnuScreenshotDeleteAll,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete &All Images/Shots"},
+    {.id = IDM_mnuScreenshotDeleteAllPreview,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete All Pre&view Images"},
+    {.id = IDM_mnuScreenshotDeleteAllJPG,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete All &JPG Images"},
+    {.id = IDM_mnuScreenshotDeleteAllTGA,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete All &TGA Shots"},
+    {.id = IDM_mnuScreenshotDeleteAllPCX,
+     .parent = IDM_mnuScreenshot,
+     .caption = "Delete All PC&X Shots"},
+    {.kind = MenuKind::Separator, .parent = IDM_mnuScreenshot},
+    {.id = IDM_mnuScreenshotRefresh, .parent = IDM_mnuScreenshot, .caption = "Re&fresh List"},
+};
+
+}  // namespace
+
+std::span<const ControlRow> ShotsTabControlRows() { return kRows; }
+
+std::span<const MenuRow> ShotsMenuRows() { return kMenu; }
+
+}  // namespace zentar
