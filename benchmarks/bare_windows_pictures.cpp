@@ -4,22 +4,12 @@
 
 #include <wincodec.h>
 
+#include "platform/nviewlib/win32/resources.h"
+
 namespace zentar::benchmarks {
 namespace {
 
-template <typename Interface>
-struct ComPointer {
-    Interface* pointer = nullptr;
-    ComPointer() = default;
-    ComPointer(const ComPointer&) = delete;
-    ComPointer& operator=(const ComPointer&) = delete;
-    ~ComPointer() {
-        if (pointer != nullptr) {
-            pointer->Release();
-        }
-    }
-    Interface* operator->() const { return pointer; }
-};
+using nviewlib::Made;
 
 void SetQuality(IPropertyBag2* options) {
     PROPBAG2 name{};
@@ -35,20 +25,23 @@ void SetQuality(IPropertyBag2* options) {
 void EncodeBareJpg(const std::filesystem::path& file, std::string& pixels, int width, int height) {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     {
-        ComPointer<IWICImagingFactory> factory;
-        CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                         IID_IWICImagingFactory, reinterpret_cast<void**>(&factory.pointer));
-        ComPointer<IWICStream> stream;
-        factory->CreateStream(&stream.pointer);
+        const auto factory = Made<IWICImagingFactory>([](IWICImagingFactory** made) {
+            return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                    IID_IWICImagingFactory, reinterpret_cast<void**>(made));
+        });
+        const auto stream =
+            Made<IWICStream>([&](IWICStream** made) { return factory->CreateStream(made); });
         stream->InitializeFromFilename(file.c_str(), GENERIC_WRITE);
-        ComPointer<IWICBitmapEncoder> encoder;
-        factory->CreateEncoder(GUID_ContainerFormatJpeg, nullptr, &encoder.pointer);
-        encoder->Initialize(stream.pointer, WICBitmapEncoderNoCache);
-        ComPointer<IWICBitmapFrameEncode> frame;
-        ComPointer<IPropertyBag2> options;
-        encoder->CreateNewFrame(&frame.pointer, &options.pointer);
-        SetQuality(options.pointer);
-        frame->Initialize(options.pointer);
+        const auto encoder = Made<IWICBitmapEncoder>([&](IWICBitmapEncoder** made) {
+            return factory->CreateEncoder(GUID_ContainerFormatJpeg, nullptr, made);
+        });
+        encoder->Initialize(stream.get(), WICBitmapEncoderNoCache);
+        IPropertyBag2* bag = nullptr;
+        const auto frame = Made<IWICBitmapFrameEncode>(
+            [&](IWICBitmapFrameEncode** made) { return encoder->CreateNewFrame(made, &bag); });
+        const nviewlib::ComPointer<IPropertyBag2> options(bag);
+        SetQuality(options.get());
+        frame->Initialize(options.get());
         frame->SetSize(static_cast<UINT>(width), static_cast<UINT>(height));
         WICPixelFormatGUID format = GUID_WICPixelFormat24bppBGR;
         frame->SetPixelFormat(&format);

@@ -3,6 +3,8 @@
 
 #include <functional>
 
+#include "core/scoped_flag.h"
+
 namespace zentar {
 
 class CommandGuard {
@@ -12,19 +14,11 @@ class CommandGuard {
         if (runs_) {
             return;
         }
-        const Running running(runs_);
+        const ScopedFlag running(runs_);
         command();
     }
 
   private:
-    struct Running {
-        explicit Running(bool& running) : runs(running) { runs = true; }
-        ~Running() { runs = false; }
-        Running(const Running&) = delete;
-        Running& operator=(const Running&) = delete;
-        bool& runs;
-    };
-
     bool runs_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "core/file_reading.h"
 
 #include <memory>
+#include <new>
 #include <span>
 
 namespace zentar {
@@ -17,7 +18,12 @@ Result<std::string> ReadWholeFile(FileSystem& files, const std::string& path, st
     if (length.Value() > most) {
         return FileError::NoSpace;
     }
-    std::string bytes(static_cast<std::size_t>(length.Value()), '\0');
+    std::string bytes;
+    try {
+        bytes.resize(static_cast<std::size_t>(length.Value()));
+    } catch (const std::bad_alloc&) {
+        return FileError::Other;
+    }
     const Result<std::size_t> got =
         file.Value()->ReadAt(0, std::as_writable_bytes(std::span(bytes)));
     if (!got.Ok()) {

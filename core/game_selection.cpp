@@ -128,6 +128,11 @@ void GameSelection::RefreshModList() {
 }
 
 void GameSelection::lstMods_Click() {
+    modWasSelected_ = true;
+    selecting_.Run([this] { SelectListedMod(); });
+}
+
+void GameSelection::SelectListedMod() {
     const int selected = controls_.lstMods.SelectedIndex();
     if (selected >= 0 && state_.Info() != nullptr) {
         SelectMod(controls_.lstMods.Item(selected));
@@ -135,7 +140,6 @@ void GameSelection::lstMods_Click() {
 }
 
 void GameSelection::SelectMod(const std::string& mod) {
-    modWasSelected_ = true;
     followers_.ResetPreviewCaption();
     const GameInfo& info = *state_.Info();
     GameState& game = *state_.Game();
@@ -145,8 +149,8 @@ void GameSelection::SelectMod(const std::string& mod) {
     state_.current.ScreenshotFolder = modFolder + std::string(info.screenshotFolder);
     state_.current.DemoFolder = modFolder + std::string(info.demoFolder);
     followers_.RefreshScreenshotList();
-    if (state_.current.SelectedMod != mod) {
-        return;  // another one was picked meanwhile, and its files are listed
+    if (selecting_.AskedAgain()) {
+        return;  // another one was picked meanwhile, whose files are listed next
     }
     if (!controls_.chkShowAllDemos.Checked() && state_.settings.AutoShowAll == 1) {
         controls_.chkShowAllDemos.SetChecked(true);  // its own procedure then lists the demos

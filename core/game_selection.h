@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "core/latest_only.h"
 #include "core/program_state.h"
 #include "platform/controls.h"
 #include "platform/platform.h"
@@ -54,6 +55,7 @@ class GameSelection {
     void SetContext(const GameInfo& info, const GameState& game);
     void RefreshModList();
     std::vector<std::string> FindMods();
+    void SelectListedMod();
     void SelectMod(const std::string& mod);
 
     ProgramState& state_;
@@ -65,6 +67,7 @@ class GameSelection {
     // Counts the refreshes: one that was overtaken by another while messages were handled stops.
     unsigned refreshes_ = 0;
     bool modWasSelected_ = false;
+    LatestOnly selecting_;
 };
 
 }  // namespace zentar

@@ -65,6 +65,28 @@ Message IllegalCharacters() {
                           R"(in them:   "   \   /   |   <   >   :   ?   *)"}));
 }
 
+Message NotRenamed(std::string_view thing, FileError why) {
+    const std::string name(thing);
+    switch (why) {
+        case FileError::AlreadyExists:
+            return Failure(Lines({"Can't rename due to another " + name + " having that name.", "",
+                                  "Please choose another name and try again."}));
+        case FileError::BadName:
+            return Failure(Lines({"Can't rename due to Windows not allowing that name.", "",
+                                  "It may be too long, or be a name that Windows",
+                                  "keeps for itself (eg. con)."}));
+        case FileError::NotFound:
+            return IsGone(thing);
+        default:
+            return Failure(Lines({"This " + name + " couldn't be renamed.", "",
+                                  "The file may be in use, or its folder may be protected."}));
+    }
+}
+
+Message IsGone(std::string_view thing) {
+    return Failure("This " + std::string(thing) + " is no longer in its folder.");
+}
+
 std::string LocateRemoteFolder() { return "Please specify a folder to be the Remote Folder:"; }
 
 Message SwitchingToExpertMode() {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/program_state.h"
+#include "platform/result.h"
 #include "platform/window_services.h"
 
 namespace zentar::messages {
@@ -22,6 +24,9 @@ Message CannotExitYet();
 
 // A new file name holds one of the nine characters that none may hold.
 Message IllegalCharacters();
+// `thing` is what was to be renamed, or to be found: "demo", "screenshot".
+Message NotRenamed(std::string_view thing, FileError why);
+Message IsGone(std::string_view thing);
 
 // Preferences.
 std::string LocateRemoteFolder();

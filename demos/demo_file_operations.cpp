@@ -131,7 +131,7 @@ void DemoFileOperations::RenameSelected() {
         return;
     }
     if (name.size() > kLongestFileName) {
-        platform_.windows.Ask(messages::DemoNotRenamed(FileError::BadName));
+        platform_.windows.Ask(messages::NotRenamed("demo", FileError::BadName));
     } else if (ValidateFileName(platform_.windows, name)) {
         Rename(demo, name, extension);
     }
@@ -158,7 +158,7 @@ void DemoFileOperations::Rename(const DemoInfo& demo, const std::string& name,
     if (renamed.Ok()) {
         list_.SetPendingReselection(name + std::string(EntryMarkers(demo.Extension)));
     } else {
-        platform_.windows.Ask(messages::DemoNotRenamed(renamed.Error()));
+        platform_.windows.Ask(messages::NotRenamed("demo", renamed.Error()));
         if (renamed.Error() != FileError::NotFound) {
             return;
         }

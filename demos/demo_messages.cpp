@@ -54,24 +54,6 @@ TextQuestion EnterNewDemoName(const std::string& name) {
         .answer = name};
 }
 
-Message DemoNotRenamed(FileError why) {
-    switch (why) {
-        case FileError::AlreadyExists:
-            return Failure(Lines({"Can't rename due to another demo having that name.", "",
-                                  "Please choose another name and try again."}));
-        case FileError::BadName:
-            return Failure(Lines({"Can't rename due to Windows not allowing that name.", "",
-                                  "It may be too long, or be a name that Windows",
-                                  "keeps for itself (eg. con)."}));
-        case FileError::NotFound:
-            return DemoIsGone();
-        default:
-            return Failure(Lines({"This demo couldn't be renamed.", "", kInUseOrProtected}));
-    }
-}
-
-Message DemoIsGone() { return Failure("This demo is no longer in its folder."); }
-
 Message DemoIsUnreadable() {
     return Failure(Lines({"This demo can't be read at this time.", "", kInUseOrProtected}));
 }

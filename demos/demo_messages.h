@@ -24,10 +24,8 @@ Message DemosNotDeleted(std::uint64_t kept, std::uint64_t listed);
 
 // Renaming.
 TextQuestion EnterNewDemoName(const std::string& name);
-Message DemoNotRenamed(FileError why);
 
-// The file of the selected demo is no longer there, or cannot be read.
-Message DemoIsGone();
+// The file of the selected demo is there, but cannot be read.
 Message DemoIsUnreadable();
 
 // Playing. `version` is "1.17" or "1.27h".

@@ -5,6 +5,7 @@
 
 #include "core/file_name.h"
 #include "core/game_folders.h"
+#include "core/messages.h"
 #include "core/questions.h"
 #include "demos/demo_messages.h"
 #include "platform/file_system.h"
@@ -100,7 +101,7 @@ bool DemoPlayback::CanBePlayed(const DemoInfo& demo) {
         return false;
     }
     if (!platform_.files.Info(demo.Path).Ok()) {
-        platform_.windows.Ask(messages::DemoIsGone());
+        platform_.windows.Ask(messages::IsGone("demo"));
         list_.RefreshDemoList();
         return false;
     }

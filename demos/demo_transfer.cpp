@@ -2,6 +2,7 @@
 
 #include "core/file_name.h"
 #include "core/hourglass.h"
+#include "core/messages.h"
 #include "core/questions.h"
 #include "core/remote_folder.h"
 #include "core/text.h"
@@ -52,7 +53,7 @@ void DemoTransfer::Transfer(TransferVerb verb) {
 bool DemoTransfer::MayBegin(Job& job) {
     const Result<FileInfo> source = platform_.files.Info(job.file.source);
     if (!source.Ok()) {
-        platform_.windows.Ask(messages::DemoIsGone());
+        platform_.windows.Ask(messages::IsGone("demo"));
         list_.RefreshDemoList();
         return false;
     }

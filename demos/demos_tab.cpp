@@ -95,10 +95,17 @@ bool DemosTab::lstDemos_KeyDown(Key key) {
 }
 
 void DemosTab::lstDemos_MouseDown() {
+    const std::uint64_t request = ++menuRequests_;
     controls_.lstDemos.SetFocus();
     platform_.windows.PumpPending();
+    if (request != menuRequests_) {
+        return;  // the menu was asked for once more meanwhile, and has been shown
+    }
     controls_.lstDemos.SelectAtPointer();
     platform_.windows.PumpPending();
+    if (request != menuRequests_) {
+        return;
+    }
     ReadNow();
     DecideMenu();
     showPopup_();

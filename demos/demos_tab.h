@@ -13,6 +13,7 @@
 
 #include "core/command_guard.h"
 #include "core/game_info.h"
+#include "core/latest_only.h"
 #include "core/program_state.h"
 #include "demos/demo_file_operations.h"
 #include "demos/demo_header.h"
@@ -82,6 +83,7 @@ class DemosTab : public DemoListView {
     bool ForceShowAll();
     void ShowSelectedFile();
     void ReadSelectedDemo();
+    void ReadIfStillSelected();
     void ReadNow();
     bool ReadHeader();
     void PlayDemo();
@@ -107,6 +109,8 @@ class DemosTab : public DemoListView {
     bool unread_ = false;  // it was selected, and its content is still to be read
     PendingReselection pending_;
     CommandGuard commands_;
+    LatestOnly reading_;
+    std::uint64_t menuRequests_ = 0;
     // Counted up with every selection and reset, and with every rebuild: how a procedure notices
     // that another one ran inside it.
     std::uint64_t selections_ = 0;

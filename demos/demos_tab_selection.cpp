@@ -71,6 +71,10 @@ void DemosTab::ShowSelectedFile() {
 }
 
 void DemosTab::ReadSelectedDemo() {
+    reading_.Run([this] { ReadIfStillSelected(); });
+}
+
+void DemosTab::ReadIfStillSelected() {
     const std::uint64_t selection = selections_;
     bool isADemo = true;
     {

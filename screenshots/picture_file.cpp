@@ -7,7 +7,7 @@ namespace zentar {
 namespace {
 
 // Longer files hold nothing that would be decoded.
-constexpr std::uint64_t kLongestFile = 208'000'000;
+constexpr std::uint64_t kLongestFile = std::uint64_t{208} << 20U;
 
 }  // namespace
 

@@ -25,13 +25,10 @@ bool WriteScratch(FileSystem& files, const std::string& path, const std::string&
     return file.Ok() && file.Value()->Write(bytes).Ok() && file.Value()->Close().Ok();
 }
 
-bool IsSameFileStill(FileSystem& files, const std::string& path, const FileInfo& before) {
-    const Result<FileInfo> now = files.Info(path);
-    return now.Ok() && now.Value().length == before.length &&
-           now.Value().lastWrite == before.lastWrite;
+// Nothing but an unfinished JPG ever stands under this name.
+std::string Unfinished(const std::string& jpg) {
+    return std::string(FolderOf(jpg)) + "zentar-jpg.tmp";
 }
-
-std::string Unfinished(const std::string& jpg) { return jpg + ".new"; }
 
 }  // namespace
 
@@ -57,12 +54,12 @@ void ShotConversion::mnuScreenshotMakeJPEGOnly_Click() {
                         MayChangeFile(platform_, jpg, messages::OverwriteReadOnlyJpg()))) {
         return;
     }
+    const bool kills = std::exchange(KillOriginal_, false);
     bool made = false;
     {
         const Hourglass hourglass(platform_.windows);
-        made = MakeJpg(shot, actual.picture, jpg) && PutInPlace(jpg, overwrites || KillOriginal_);
+        made = MakeJpg(shot, actual.picture, jpg) && PutInPlace(jpg, overwrites, kills);
     }
-    const bool kills = std::exchange(KillOriginal_, false);
     if (!made) {
         platform_.windows.Ask(messages::JpgNotMade(game));
         return;
@@ -96,16 +93,20 @@ bool ShotConversion::MakeJpg(const Shot& shot, const BitmapPtr& picture, const s
 
 // When something goes for it, an older JPG or the original, the new one must be such that it can be
 // seen and outlives a power cut.
-bool ShotConversion::PutInPlace(const std::string& jpg, bool somethingGoes) {
+bool ShotConversion::PutInPlace(const std::string& jpg, bool overwrites, bool kills) {
+    FileSystem& files = platform_.files;
     const std::string unfinished = Unfinished(jpg);
-    const Result<FileInfo> info = platform_.files.Info(unfinished);
+    const Result<FileInfo> info = files.Info(unfinished);
     const bool whole = info.Ok() && info.Value().length > 0;
+    const bool somethingGoes = overwrites || kills;
     const bool lasts = !somethingGoes || (ReadPicture(platform_, unfinished) != nullptr &&
-                                          IsOnDisk(platform_.files, unfinished, false));
-    if (whole && lasts && platform_.files.Replace(unfinished, jpg).Ok()) {
+                                          IsOnDisk(files, unfinished, false));
+    // One that a game has written since the question is not replaced.
+    if (whole && lasts &&
+        (overwrites ? files.Replace(unfinished, jpg) : files.Rename(unfinished, jpg)).Ok()) {
         return true;
     }
-    IgnoreFailure(platform_.files.Delete(unfinished));  // of no use to anybody
+    IgnoreFailure(files.Delete(unfinished));  // of no use to anybody
     return false;
 }
 
@@ -126,7 +127,12 @@ void ShotConversion::MakeCurrentImage(const Shot& shot, const Bitmap& picture) {
 
 // Deletes the original unless it is no longer what was converted.
 OriginalOutcome ShotConversion::DeleteOriginal(const Shot& shot, const FileInfo& converted) {
-    if (!IsSameFileStill(platform_.files, shot.Path, converted)) {
+    const Result<FileInfo> now = platform_.files.Info(shot.Path);
+    if (!now.Ok() && now.Error() == FileError::NotFound) {
+        return OriginalOutcome::Gone;
+    }
+    if (!now.Ok() || now.Value().length != converted.length ||
+        now.Value().lastWrite != converted.lastWrite) {
         return OriginalOutcome::NotDeletable;
     }
     if (!MayChangeFile(platform_, shot.Path, messages::DeleteReadOnlyShot())) {

@@ -21,7 +21,7 @@ class ShotConversion {
 
   private:
     bool MakeJpg(const Shot& shot, const BitmapPtr& picture, const std::string& jpg);
-    bool PutInPlace(const std::string& jpg, bool somethingGoes);
+    bool PutInPlace(const std::string& jpg, bool overwrites, bool kills);
     void MakeCurrentImage(const Shot& shot, const Bitmap& picture);
     OriginalOutcome DeleteOriginal(const Shot& shot, const FileInfo& converted);
 

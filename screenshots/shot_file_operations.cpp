@@ -157,7 +157,7 @@ void ShotFileOperations::mnuScreenshotRename_Click() {
         return;
     }
     if (name.size() > kLongestFileName) {
-        platform_.windows.Ask(messages::ShotNotRenamed(FileError::BadName));
+        platform_.windows.Ask(messages::NotRenamed("screenshot", FileError::BadName));
     } else if (ValidateFileName(platform_.windows, name)) {
         Rename(shot, name);
     }
@@ -168,7 +168,7 @@ void ShotFileOperations::Rename(const Shot& shot, const std::string& name) {
     const std::string renamed = name + std::string(shot.Name.substr(BaseNameOf(shot.Name).size()));
     const Status done = platform_.files.Rename(shot.Path, folder + renamed);
     if (!done.Ok()) {
-        platform_.windows.Ask(messages::ShotNotRenamed(done.Error()));
+        platform_.windows.Ask(messages::NotRenamed("screenshot", done.Error()));
         if (done.Error() == FileError::NotFound) {
             list_.RefreshScreenshotList();  // it is out of date
         }
@@ -176,8 +176,8 @@ void ShotFileOperations::Rename(const Shot& shot, const std::string& name) {
     }
     const std::string preview = PreviewNameOf(shot.Path);
     const std::string newPreview = folder + PreviewNameOf(renamed);
-    // Usually there is none of the new name. A preview that cannot be renamed is made anew when
-    // the shot is viewed.
+    // One of the new name showed a shot that has gone, or that shares its preview from now on. A
+    // preview that cannot be renamed is made anew when the shot is viewed.
     if (!platform_.files.Rename(preview, newPreview).Ok() && platform_.files.Info(preview).Ok()) {
         IgnoreFailure(platform_.files.Replace(preview, newPreview));
     }

@@ -108,23 +108,4 @@ TextQuestion EnterNewShotName(const std::string& name) {
             .answer = name};
 }
 
-Message ShotNotRenamed(FileError why) {
-    switch (why) {
-        case FileError::AlreadyExists:
-            return Failure(Lines({"Can't rename due to another screenshot having that name.", "",
-                                  "Please choose another name and try again."}));
-        case FileError::BadName:
-            return Failure(Lines({"Can't rename due to Windows not allowing that name.", "",
-                                  "It may be too long, or be a name that Windows",
-                                  "keeps for itself (eg. con)."}));
-        case FileError::NotFound:
-            return ShotIsGone();
-        default:
-            return Failure(Lines({"This screenshot couldn't be renamed.", "",
-                                  "The file may be in use, or its folder may be protected."}));
-    }
-}
-
-Message ShotIsGone() { return Failure("This screenshot is no longer in its folder."); }
-
 }  // namespace zentar::messages

@@ -37,7 +37,5 @@ Message ReallyDeleteAllPcx();
 Message ReallyDeleteAllJpg();
 
 TextQuestion EnterNewShotName(const std::string& name);
-Message ShotNotRenamed(FileError why);
-Message ShotIsGone();
 
 }  // namespace zentar::messages

@@ -2,6 +2,7 @@
 
 #include "core/file_name.h"
 #include "core/hourglass.h"
+#include "core/messages.h"
 #include "core/questions.h"
 #include "core/remote_folder.h"
 #include "platform/locale.h"
@@ -48,7 +49,7 @@ void ShotTransfer::TransferShotToRemote(TransferVerb verb) {
 bool ShotTransfer::MayBegin(TransferVerb verb, FileTransfer& file) {
     const Result<FileInfo> source = platform_.files.Info(file.source);
     if (!source.Ok()) {
-        platform_.windows.Ask(messages::ShotIsGone());
+        platform_.windows.Ask(messages::IsGone("screenshot"));
         list_.RefreshScreenshotList();
         return false;
     }

@@ -121,10 +121,25 @@ void ShotsTab::EnterOnList() {
 }
 
 void ShotsTab::lstScreenshots_MouseDown() {
+    const std::uint64_t request = ++menuRequests_;
     controls_.lstScreenshots.SetFocus();
     platform_.windows.PumpPending();
+    if (request != menuRequests_) {
+        return;  // the menu was asked for once more meanwhile, and has been shown
+    }
     controls_.lstScreenshots.SelectAtPointer();
     platform_.windows.PumpPending();
+    if (request != menuRequests_) {
+        return;
+    }
+    if (showing_.Runs()) {
+        menuWaits_ = true;  // for the shot, which is still being loaded
+        return;
+    }
+    OpenMenu();
+}
+
+void ShotsTab::OpenMenu() {
     DecideMenu();
     showPopup_();
 }

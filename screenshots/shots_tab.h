@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/command_guard.h"
+#include "core/latest_only.h"
 #include "core/program_state.h"
 #include "platform/platform.h"
 #include "screenshots/shot.h"
@@ -68,6 +69,8 @@ class ShotsTab : public ShotListView {
     bool SelectShot(const std::string& shot);
     void TakeEntry(const std::string& entry);
     void ShowSelectedShot();
+    void LoadSelectedShot();
+    void OpenMenu();
     void DeleteByKey();
     void EnterOnList();
     void DecideMenu();
@@ -91,6 +94,9 @@ class ShotsTab : public ShotListView {
     // The next selection shows nothing anew: its shot is on the screen already.
     bool KeepShotView_ = false;
     CommandGuard commands_;
+    LatestOnly showing_;
+    std::uint64_t menuRequests_ = 0;
+    bool menuWaits_ = false;  // until the shot has been loaded
     // Counted up with every selection that shows a shot and with every refresh: how a procedure
     // notices that another one ran inside it.
     std::uint64_t changes_ = 0;

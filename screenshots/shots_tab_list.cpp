@@ -65,6 +65,11 @@ void ShotsTab::RefreshAndSelect(const std::string& shot) {
 
 // What is listed changes in one step, without the list being seen empty.
 void ShotsTab::RefreshAndReselect(const std::string& shot) {
+    if (listedFolder_ != state_.current.ScreenshotFolder) {
+        // Another mod was picked meanwhile, which may have a shot of that name.
+        RefreshScreenshotList();
+        return;
+    }
     if (viewing_.IsLoading()) {
         // The user did not wait for the picture, so there is none yet that could stay.
         RefreshAndSelect(shot);
@@ -137,12 +142,24 @@ void ShotsTab::lstScreenshots_Click() {
 }
 
 void ShotsTab::ShowSelectedShot() {
-    const std::uint64_t change = ++changes_;
+    ++changes_;
     PollShiftKey(state_, platform_);
+    viewing_.BeginLoading();
+    const bool inside = showing_.Runs();
+    showing_.Run([this] { LoadSelectedShot(); });
+    if (!inside && std::exchange(menuWaits_, false)) {
+        OpenMenu();
+    }
+}
+
+void ShotsTab::LoadSelectedShot() {
+    const std::uint64_t change = changes_;
+    if (shot_.Name.empty()) {
+        return;  // the list was refreshed since
+    }
     bool shown = false;
     {
         const Hourglass hourglass(platform_.windows);
-        viewing_.BeginLoading();
         platform_.windows.PumpPending();
         if (change != changes_) {
             return;

@@ -109,8 +109,14 @@ void Win32PictureBox::RaiseDown(MouseButton button, Point at) {
 }
 
 void Win32PictureBox::LeftIsUp() {
+    if (leftDown_) {
+        ReleaseCapture();  // which tells of it
+    }
+}
+
+// The mouse's messages go elsewhere, whoever wanted that.
+void Win32PictureBox::EndDrag() {
     if (std::exchange(leftDown_, false)) {
-        ReleaseCapture();
         Host().Dispatcher().Run(mouse_.up);
     }
 }
@@ -158,7 +164,7 @@ std::optional<LRESULT> Win32PictureBox::OnMessage(UINT message, WPARAM wParam, L
             }
             break;
         case WM_CAPTURECHANGED:
-            LeftIsUp();
+            EndDrag();
             return 0;
         default:
             if (const auto answer =

@@ -34,6 +34,7 @@ class Win32PictureBox : public ControlBase<PictureBox> {
     std::optional<LRESULT> OnMouse(UINT message, Point at);
     void Press(Point at);
     void LeftIsUp();
+    void EndDrag();
     void RaiseDown(MouseButton button, Point at);
 
     BoxCursor cursor_;

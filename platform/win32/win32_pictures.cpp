@@ -40,14 +40,18 @@ std::string BmpFile(const Win32Bitmap& bitmap) {
 
 BitmapPtr Win32Pictures::Decode(std::string_view file) {
     session_.ole.Need();
-    std::shared_ptr<Win32Bitmap> bitmap;
-    const bool decoded =
-        nviewlib::DecodeBySystem({reinterpret_cast<const std::uint8_t*>(file.data()), file.size()},
-                                 [&bitmap](nviewlib::ImageSize size) {
-                                     bitmap = Win32Bitmap::Make({size.width, size.height});
-                                     return bitmap ? bitmap->Pixels() : nviewlib::Raster{};
-                                 });
-    return decoded ? bitmap : nullptr;
+    try {
+        std::shared_ptr<Win32Bitmap> bitmap;
+        const bool decoded = nviewlib::DecodeBySystem(
+            {reinterpret_cast<const std::uint8_t*>(file.data()), file.size()},
+            [&bitmap](nviewlib::ImageSize size) {
+                bitmap = Win32Bitmap::Make({size.width, size.height});
+                return bitmap ? bitmap->Pixels() : nviewlib::Raster{};
+            });
+        return decoded ? bitmap : nullptr;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
 }
 
 BitmapPtr Win32Pictures::Stretch(const Bitmap& picture, Size size) {

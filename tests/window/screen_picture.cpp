@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "platform/nviewlib/win32/resources.h"
 #include "tests/window/text_conversion.h"
 
 namespace zentar::window_tests {
@@ -36,37 +37,27 @@ HBITMAP CopyScreen(const RECT& area) {
     return bitmap;
 }
 
-// Released when it goes out of scope; the file is complete only then.
-template <typename Interface>
-struct ComPointer {
-    Interface* pointer = nullptr;
-    ComPointer() = default;
-    ComPointer(const ComPointer&) = delete;
-    ComPointer& operator=(const ComPointer&) = delete;
-    ~ComPointer() {
-        if (pointer != nullptr) {
-            pointer->Release();
-        }
-    }
-    Interface* operator->() const { return pointer; }
-};
-
 void SavePng(HBITMAP bitmap, const std::filesystem::path& file) {
-    ComPointer<IWICImagingFactory> factory;
-    CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                     reinterpret_cast<void**>(&factory.pointer));
-    ComPointer<IWICBitmap> picture;
-    factory->CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, &picture.pointer);
-    ComPointer<IWICStream> stream;
-    factory->CreateStream(&stream.pointer);
+    using nviewlib::Made;
+    const auto factory = Made<IWICImagingFactory>([](IWICImagingFactory** made) {
+        return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                IID_IWICImagingFactory, reinterpret_cast<void**>(made));
+    });
+    const auto picture = Made<IWICBitmap>([&](IWICBitmap** made) {
+        return factory->CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, made);
+    });
+    // The file is complete once this has gone.
+    const auto stream =
+        Made<IWICStream>([&](IWICStream** made) { return factory->CreateStream(made); });
     stream->InitializeFromFilename(file.c_str(), GENERIC_WRITE);
-    ComPointer<IWICBitmapEncoder> encoder;
-    factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder.pointer);
-    encoder->Initialize(stream.pointer, WICBitmapEncoderNoCache);
-    ComPointer<IWICBitmapFrameEncode> frame;
-    encoder->CreateNewFrame(&frame.pointer, nullptr);
+    const auto encoder = Made<IWICBitmapEncoder>([&](IWICBitmapEncoder** made) {
+        return factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, made);
+    });
+    encoder->Initialize(stream.get(), WICBitmapEncoderNoCache);
+    const auto frame = Made<IWICBitmapFrameEncode>(
+        [&](IWICBitmapFrameEncode** made) { return encoder->CreateNewFrame(made, nullptr); });
     frame->Initialize(nullptr);
-    frame->WriteSource(picture.pointer, nullptr);
+    frame->WriteSource(picture.get(), nullptr);
     frame->Commit();
     encoder->Commit();
 }

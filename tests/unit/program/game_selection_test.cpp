@@ -227,6 +227,31 @@ TEST_F(GameSelectionTest, CurrentFoldersShowsAllThree) {
     Window().UserPickMenu(IDM_mnuGameCurrentFolders);
 }
 
+// A key held down in the mod list, on a slow disk.
+TEST_F(GameSelectionTest, HoweverManyModsArePickedNoneIsListedInsideAnother) {
+    for (int mod = 100; mod < 400; ++mod) {
+        os.files.AddFolder(kQuake2Folder + "mod" + std::to_string(mod) + "\\scrnshot\\");
+    }
+    Start();
+    const int last = static_cast<int>(Mods().size()) - 1;
+    int depth = 0;
+    int deepest = 0;
+    int next = 1;
+    os.windows.SetDuringPump([&] {
+        deepest = std::max(deepest, ++depth);
+        if (next < last) {
+            Window().UserSelect(IDC_lstMods, ++next);
+        }
+        --depth;
+    });
+    Window().UserSelect(IDC_lstMods, 1);
+    os.windows.SetDuringPump({});
+    EXPECT_EQ(deepest, 1);
+    EXPECT_EQ(next, last);
+    EXPECT_EQ(State().current.SelectedMod, Mods().back());
+    EXPECT_EQ(State().games[1].CurMod, Mods().back());
+}
+
 // ---- The folder check ----
 
 TEST_F(GameSelectionTest, TheFolderCheckGoesByTheExecutableThatIsThereNow) {

@@ -137,6 +137,36 @@ TEST_P(OvertakenViewing, AShotThatCannotBeShownMeanwhileIsNotShownLater) {
     EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("before.tga")));
 }
 
+TEST_P(OvertakenViewing, AMenuAskedForMeanwhileOpensOnceItsShotIsThere) {
+    SelectAnd([this] { RightClick("b.tga"); });
+    ASSERT_EQ(form->Popups().size(), 1U);
+    EXPECT_TRUE(form->Popups().front().enabled.at(IDM_mnuScreenshotMakeJPEGOnly));
+    EXPECT_EQ(Shown(), "b");
+}
+
+// A key held down on a slow machine.
+TEST_P(OvertakenViewing, HoweverManySelectionsNoneRunsInsideAnother) {
+    for (int shot = 100; shot < 600; ++shot) {
+        AddShot(std::string("s").append(std::to_string(shot)).append(".tga"));
+    }
+    Refresh();
+    int depth = 0;
+    int deepest = 0;
+    int next = IndexOf("s100.tga");
+    os.windows.SetDuringPump([&] {
+        deepest = std::max(deepest, ++depth);
+        if (next < IndexOf("s599.tga")) {
+            form->UserSelect(IDC_lstScreenshots, ++next);
+        }
+        --depth;
+    });
+    Select("s100.tga");
+    EXPECT_EQ(deepest, 1);
+    EXPECT_EQ(Selected(), "s599.tga *");
+    EXPECT_EQ(Shown(), "s599");
+    EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("before.tga"), PathOf("s599.tga")));
+}
+
 INSTANTIATE_TEST_SUITE_P(Times, OvertakenViewing, ::testing::Values(1, 2));
 
 // ---- What overtakes a refresh ----
@@ -169,6 +199,34 @@ TEST_F(OvertakenRefresh, WhatIsDeletedIsWhatIsListed) {
     Pick("(beside)", IDM_mnuScreenshotDeleteAll);
     EXPECT_THAT(Names(listed), IsEmpty());
     EXPECT_THAT(Listed(), ElementsAre("other.tga"));
+}
+
+// Games use the same names.
+TEST_F(OvertakenRefresh, AShotOfTheGameBeforeIsNotTakenForOneOfTheNext) {
+    AddShot("a.tga");
+    Refresh();
+    const std::string before = state.current.ScreenshotFolder;
+    state.current.ScreenshotFolder = "C:\\Quake2\\rocket\\scrnshot\\";
+    AddShot("a.tga", {8, 8}, "other");
+    Select("a.tga");
+    EXPECT_THAT(os.library.Loaded(), ElementsAre(before + "a.tga"));
+    EXPECT_EQ(Listed(), std::vector<std::string>{"a.tga"});
+    EXPECT_EQ(Selected(), "");
+    EXPECT_EQ(Shown(), "");
+    EXPECT_EQ(tab->CurrentShot().Name, "");
+    Select("a.tga");
+    EXPECT_EQ(Shown(), "other");
+    EXPECT_EQ(tab->CurrentShot().Path, PathOf("a.tga"));
+}
+
+TEST_F(OvertakenRefresh, ASecondRightClickOpensTheMenuOnce) {
+    AddShot("a.tga");
+    AddShot("b.tga");
+    Refresh();
+    DuringPumpNumber(1, [this] { RightClick("b.tga"); });
+    RightClick("a.tga");
+    EXPECT_EQ(form->Popups().size(), 1U);
+    EXPECT_EQ(Selected(), "b.tga *");
 }
 
 // While the list is empty already, but the new shots are not in it yet.

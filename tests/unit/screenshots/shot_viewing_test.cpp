@@ -140,7 +140,7 @@ TEST_F(ShotViewingTest, TheBusyImageIsShownWhileTheShotIsLoaded) {
     Select("a.tga");
     EXPECT_THAT(seen, ElementsAre("", "busy"));
     EXPECT_TRUE(os.log.Ordered(
-        {"Pointer Hourglass", "imgShotView.SetImage(none)", "Pump",
+        {"imgShotView.SetImage(none)", "Pointer Hourglass", "Pump",
          "ClearAttributes C:\\Windows\\zentar-tmp.gif", "imgShotView.SetImage(picture)", "Pump",
          "NViewLibLoad " + PathOf("a.tga"), "imgShotView.SetImage(picture)", "Pointer Default"}));
 }
