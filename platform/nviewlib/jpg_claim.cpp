@@ -11,7 +11,6 @@ namespace {
 // The second bytes of markers.
 constexpr std::uint8_t kTemporary = 0x01;
 constexpr std::uint8_t kBaselineFrame = 0xC0;
-constexpr std::uint8_t kExtendedFrame = 0xC1;
 constexpr std::uint8_t kProgressiveFrame = 0xC2;
 constexpr std::uint8_t kHuffmanTables = 0xC4;
 constexpr std::uint8_t kExtensions = 0xC8;

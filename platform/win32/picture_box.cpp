@@ -108,7 +108,7 @@ void Win32PictureBox::RaiseDown(MouseButton button, Point at) {
     }
 }
 
-void Win32PictureBox::LeftIsUp() {
+void Win32PictureBox::LeftIsUp() const {
     if (leftDown_) {
         ReleaseCapture();  // which tells of it
     }

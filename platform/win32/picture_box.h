@@ -33,7 +33,7 @@ class Win32PictureBox : public ControlBase<PictureBox> {
     void Draw(HDC context, const RECT& wanted) const;
     std::optional<LRESULT> OnMouse(UINT message, Point at);
     void Press(Point at);
-    void LeftIsUp();
+    void LeftIsUp() const;
     void EndDrag();
     void RaiseDown(MouseButton button, Point at);
 

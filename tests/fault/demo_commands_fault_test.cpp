@@ -155,6 +155,33 @@ TEST_P(DemoCommandsFault, NothingIsLostWhereverTheProgramIsKilled) {
     }
 }
 
+void PlayToItsEnd(OneRun& run) {
+    run.Pick(IDM_mnuDemosPlay);
+    if (run.Window().GetTimer(IDC_tmrQ3Game).Enabled()) {
+        run.Window().FireTimer(IDC_tmrQ3Game);
+    }
+}
+
+// The packs are of no use to the next game under any other name.
+TEST(PlaybackFault, ThePacksAreBackUnderTheirNamesAfterTheNextShutdown) {
+    OneRun sound("Quake3");
+    PlayToItsEnd(sound);
+    ASSERT_GT(sound.faulty.CallCount(), 0);
+    for (const FileError error : {FileError::NoSpace, FileError::InUse, FileError::NotFound}) {
+        for (int call = 1; call <= sound.faulty.CallCount(); ++call) {
+            OneRun run("Quake3");
+            run.faulty.FailAt(call, error);
+            PlayToItsEnd(run);
+            run.faulty.Restart();
+            run.Window().UserClose();
+            for (const char* pak : {"pak4", "pak5", "pak6"}) {
+                const std::string path = std::string("C:\\Quake3\\baseq3\\") + pak + ".pk3";
+                EXPECT_TRUE(run.files.Exists(path)) << path << "; " << run.faulty.CallName(call);
+            }
+        }
+    }
+}
+
 CommandCase MenuCase(const char* name, int entry, std::vector<std::string> given = {}) {
     return {name, "Quake2", [entry](OneRun& run) { run.Pick(entry); }, std::move(given)};
 }
@@ -209,15 +236,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "Quake3",
                     [](OneRun& run) { run.Window().UserClick(IDC_cmdDemoInstaller); },
                     {}},
-        CommandCase{"PlayAndPutBack",
-                    "Quake3",
-                    [](OneRun& run) {
-                        run.Pick(IDM_mnuDemosPlay);
-                        if (run.Window().GetTimer(IDC_tmrQ3Game).Enabled()) {
-                            run.Window().FireTimer(IDC_tmrQ3Game);
-                        }
-                    },
-                    {}}),
+        CommandCase{"PlayAndPutBack", "Quake3", PlayToItsEnd, {}}),
     [](const auto& command) { return std::string(command.param.name); });
 
 }  // namespace

@@ -161,7 +161,7 @@ TEST_F(ShotCommands, ShiftAndDeleteDeleteThePreviewAloneAndThePictureStays) {
     EXPECT_FALSE(IsHere("quake00.zentar"));
     EXPECT_TRUE(IsHere("quake00.tga"));
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "quake00.tga");
-    EXPECT_TRUE(ViewShowsHall(0));
+    EXPECT_SOON(ViewShowsHall(0), true);
     View("quake01.tga", 1);
     MakeReadOnly(Shots() / "quake01.zentar");
     Choose("quake01.tga", IDM_mnuScreenshotDeletePreview);
@@ -233,7 +233,7 @@ TEST_F(ShotNames, RenamingTakesThePreviewAlongAndKeepsThePicture) {
     Type("größte Halle");
     Press(VK_RETURN);
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "größte Halle.tga *");
-    EXPECT_TRUE(ViewShowsHall(0));
+    EXPECT_SOON(ViewShowsHall(0), true);
     EXPECT_TRUE(IsHere("größte Halle.zentar"));
     EXPECT_FALSE(IsHere("quake00.zentar"));
 }
