@@ -5,10 +5,21 @@
 namespace zentar {
 
 void BoxCursor::SetDpi(int dpi) {
-    const int size = GetSystemMetricsForDpi(SM_CXCURSOR, static_cast<UINT>(dpi));
-    custom_.Reset(static_cast<HCURSOR>(LoadImageW(instance_, MAKEINTRESOURCEW(resource_),
-                                                  IMAGE_CURSOR, size, size, LR_DEFAULTCOLOR)));
-    RefreshPointer();
+    dpi_ = dpi;
+    custom_.Reset();
+    if (shown_ == BoxPointer::Custom) {
+        RefreshPointer();
+    }
+}
+
+// Loaded when it is needed, which may be never.
+HCURSOR BoxCursor::Custom() {
+    if (!custom_) {
+        const int size = GetSystemMetricsForDpi(SM_CXCURSOR, static_cast<UINT>(dpi_));
+        custom_.Reset(static_cast<HCURSOR>(LoadImageW(instance_, MAKEINTRESOURCEW(resource_),
+                                                      IMAGE_CURSOR, size, size, LR_DEFAULTCOLOR)));
+    }
+    return custom_.Get();
 }
 
 void BoxCursor::Show(BoxPointer pointer) {
@@ -18,11 +29,11 @@ void BoxCursor::Show(BoxPointer pointer) {
     }
 }
 
-bool BoxCursor::Choose(LPARAM hit) const {
-    if (LOWORD(hit) != HTCLIENT || shown_ == BoxPointer::Default || !custom_) {
+bool BoxCursor::Choose(LPARAM hit) {
+    if (LOWORD(hit) != HTCLIENT || shown_ == BoxPointer::Default || Custom() == nullptr) {
         return false;
     }
-    SetCursor(custom_.Get());
+    SetCursor(Custom());
     return true;
 }
 

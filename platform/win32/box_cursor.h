@@ -13,17 +13,20 @@ class BoxCursor {
     // The custom one is a resource of the module; number 0 is none.
     BoxCursor(HINSTANCE instance, int resource) : instance_(instance), resource_(resource) {}
 
-    // Loads it in the size that pointers have there.
+    // It has the size that pointers have there.
     void SetDpi(int dpi);
     // Takes effect at once where the pointer is over one of the program's windows.
     void Show(BoxPointer pointer);
     BoxPointer Shown() const { return shown_; }
     // The answer to WM_SETCURSOR; false when the window around is to choose.
-    bool Choose(LPARAM hit) const;
+    bool Choose(LPARAM hit);
 
   private:
+    HCURSOR Custom();
+
     HINSTANCE instance_;
     int resource_;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
     UniqueCursor custom_;
     BoxPointer shown_ = BoxPointer::Default;
 };

@@ -124,7 +124,11 @@ bool ControlWindow::RaiseKey(Key key) {
     return used;
 }
 
+// What does not change anything costs calls of the system all the same.
 void ControlWindow::SetEnabled(bool enabled) {
+    if (enabled == Enabled()) {
+        return;
+    }
     if (!enabled) {
         host_.Focus().Leave(handle_);
     }
@@ -136,6 +140,9 @@ bool ControlWindow::Enabled() const {
 }
 
 void ControlWindow::SetVisible(bool visible) {
+    if (visible == Visible()) {
+        return;
+    }
     if (!visible) {
         host_.Focus().Leave(handle_);
     }

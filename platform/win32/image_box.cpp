@@ -39,6 +39,9 @@ Win32ImageBox::Win32ImageBox(const ControlPlace& place)
       cursor_(place.instance, place.row.cursor) {}
 
 void Win32ImageBox::SetImage(BitmapPtr image) {
+    if (image == image_) {
+        return;
+    }
     image_ = std::move(image);
     scaled_.reset();
     InvalidateRect(Handle(), nullptr, FALSE);

@@ -1,6 +1,7 @@
 #include "platform/win32/list_box.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/control_colour.h"
 #include "platform/win32/win32_handle.h"
@@ -129,8 +130,9 @@ void Win32ListBox::SelectAtPointer() {
 }
 
 void Win32ListBox::SetBackground(SystemColour colour) {
-    background_ = colour;
-    InvalidateRect(Handle(), nullptr, TRUE);
+    if (std::exchange(background_, colour) != colour) {
+        InvalidateRect(Handle(), nullptr, TRUE);
+    }
 }
 
 void Win32ListBox::OnCommand(WORD code) {

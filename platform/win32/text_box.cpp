@@ -1,5 +1,7 @@
 #include "platform/win32/text_box.h"
 
+#include <utility>
+
 #include "platform/win32/control_colour.h"
 #include "platform/win32/event_dispatcher.h"
 #include "platform/win32/focus_keeper.h"
@@ -22,8 +24,9 @@ void Win32TextBox::SetText(const std::string& text) {
 void Win32TextBox::SelectAll() { Send(EM_SETSEL, 0, -1); }
 
 void Win32TextBox::SetBackground(SystemColour colour) {
-    background_ = colour;
-    InvalidateRect(Handle(), nullptr, TRUE);
+    if (std::exchange(background_, colour) != colour) {
+        InvalidateRect(Handle(), nullptr, TRUE);
+    }
 }
 
 // Setting the text makes the system tell of a change as well, so both ways end here.

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/win32/input_box.h"
 #include "platform/win32/pointer_refresh.h"
@@ -99,8 +100,9 @@ bool Win32WindowServices::IsDown(PollKey key) {
 }
 
 void Win32WindowServices::SetPointer(Pointer pointer) {
-    session_.pointer = pointer;
-    RefreshPointer();
+    if (std::exchange(session_.pointer, pointer) != pointer) {
+        RefreshPointer();
+    }
 }
 
 void Win32WindowServices::PumpPending() { session_.loop.RunPending(); }
