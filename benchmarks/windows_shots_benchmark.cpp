@@ -63,7 +63,7 @@ class Tab {
 
     Platform Services() {
         const Platform all = platform_.Services();
-        return {all.files, all.shell, quiet_, all.locale, all.library, all.pictures, all.forms};
+        return {all.files, all.shell, quiet_, all.locale, all.images, all.pictures, all.forms};
     }
 
   private:
@@ -138,7 +138,7 @@ void MeasureConversion(Tab& tab, const std::string& folder) {
 
 void MeasureDrag(Tab& tab, const std::string& folder) {
     constexpr int kMoves = 50;
-    const BitmapPtr shot = tab.Services().library.Load(folder + "\\huge.tga");
+    const BitmapPtr shot = tab.Services().images.Load(folder + "\\huge.tga");
     const std::unique_ptr<Form> form = tab.Services().forms.Create(FullViewTable());
     PictureBox& box = form->GetPictureBox(IDC_picFull);
     box.SetImage(shot);

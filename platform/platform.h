@@ -16,7 +16,7 @@ struct Platform {
     Shell& shell;
     WindowServices& windows;
     Locale& locale;
-    ImageLibrary& library;
+    ImageLibrary& images;
     Pictures& pictures;
     FormFactory& forms;
 };

@@ -83,7 +83,7 @@ bool ShotConversion::MakeJpg(const Shot& shot, const BitmapPtr& picture, const s
         return false;
     }
     MakeCurrentImage(shot, *picture);
-    const bool saved = platform_.library.SaveAsJpg(kJpgQuality, Unfinished(jpg));
+    const bool saved = platform_.images.SaveAsJpg(kJpgQuality, Unfinished(jpg));
     if (!saved) {
         // What is left of it is of no use to anybody; usually nothing is.
         IgnoreFailure(platform_.files.Delete(Unfinished(jpg)));
@@ -116,12 +116,12 @@ void ShotConversion::MakeCurrentImage(const Shot& shot, const Bitmap& picture) {
     const std::string scratch = state_.ProgramFolder + "tmp.bmp";
     const Result<std::string> bytes = platform_.pictures.EncodeBmp(picture);
     const bool written = bytes.Ok() && WriteScratch(platform_.files, scratch, bytes.Value());
-    const bool loaded = written && platform_.library.Load(scratch) != nullptr;
+    const bool loaded = written && platform_.images.Load(scratch) != nullptr;
     // It is not there when the program folder is protected.
     IgnoreFailure(platform_.files.Delete(scratch));
     if (!loaded) {
         // One that cannot be loaded either makes the encoding fail, which is told.
-        platform_.library.Load(shot.Path);
+        platform_.images.Load(shot.Path);
     }
 }
 

@@ -92,7 +92,7 @@ void ShotViewing::Decode(const Shot& shot) {
     if (file.Ok()) {
         actual_.file = file.Value();
         actual_.picture = shot.ShotExtension == ".jpg" ? ReadPicture(platform_, shot.Path)
-                                                       : platform_.library.Load(shot.Path);
+                                                       : platform_.images.Load(shot.Path);
     }
 }
 

@@ -146,7 +146,7 @@ void ShotsTab::OpenMenu() {
 
 void ShotsTab::DecideMenu() {
     const bool previewOnly = controls_.optModePreview.Selected() || state_.ShiftHeld;
-    const ShotMenu menu = DecideShotMenu(shot_, platform_.library.Present(), previewOnly);
+    const ShotMenu menu = DecideShotMenu(shot_, platform_.images.Present(), previewOnly);
     controls_.mnuScreenshotShowFull.SetEnabled(menu.showFull);
     controls_.mnuScreenshotMakeJPEGOnly.SetEnabled(menu.convert);
     controls_.mnuScreenshotMakeJPEGAndKill.SetEnabled(menu.convert);

@@ -132,7 +132,7 @@ void ShotsTab::lstScreenshots_Click() {
     shot_.ShotSizeText = kUnknownSize;
     shot_.ShotDateText = kUnknownDate;
     shot_.ShotDimsText = kUnknownDims;
-    if (platform_.library.Present()) {
+    if (platform_.images.Present()) {
         ShowSelectedShot();
     } else {
         ++changes_;

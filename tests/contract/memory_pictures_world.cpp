@@ -15,7 +15,7 @@ class MemoryPicturesWorld : public PicturesWorld {
     }
 
     Pictures& TheSystem() override { return platform_.pictures; }
-    ImageLibrary& Library() override { return platform_.library; }
+    ImageLibrary& Library() override { return platform_.images; }
     void PlaceLibrary(bool there) override {
         if (there) {
             platform_.files.AddFile(kLibrary, "library");
@@ -25,7 +25,7 @@ class MemoryPicturesWorld : public PicturesWorld {
     }
     void PlaceBrokenLibrary() override {
         PlaceLibrary(true);
-        platform_.library.SetBroken();
+        platform_.images.SetBroken();
     }
     FileSystem& Files() override { return platform_.files; }
     std::string Folder() const override { return "C:\\Shots\\"; }

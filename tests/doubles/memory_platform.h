@@ -16,15 +16,15 @@ struct MemoryPlatform {
     ScriptedShell shell{&log};
     ScriptedWindows windows{&log};
     FixedLocale locale;
-    MemoryImageLibrary library{files, &log};
+    MemoryImageLibrary images{files, &log};
     MemoryPictures pictures;
     MemoryFormFactory forms{&log};
 
     Platform Services() { return Services(files); }
     // The same, with another file system before or instead of the one in memory.
     Platform Services(FileSystem& otherFiles) {
-        library.UseFiles(otherFiles);
-        return {otherFiles, shell, windows, locale, library, pictures, forms};
+        images.UseFiles(otherFiles);
+        return {otherFiles, shell, windows, locale, images, pictures, forms};
     }
 };
 

@@ -53,7 +53,7 @@ struct OneRun {
                       "Virgin=0\r\nGame=" + game +
                           "\r\nQ2Folder=C:\\Quake2\\\r\nQ3Folder=C:\\Quake3\\\r\nCurMod2=ctf\r\n"
                           "Remote=D:\\Remote\\\r\nExpert=1\r\n");
-        program.emplace(Platform{faulty, shell, windows, locale, library, pictures, forms});
+        program.emplace(Platform{faulty, shell, windows, locale, images, pictures, forms});
         program->Start();
         Window().Activate();
         Window().UserSelectTab(IDC_SSTab1, 1);
@@ -82,7 +82,7 @@ struct OneRun {
     UnzippedShell shell;
     YesWindows windows;
     FixedLocale locale;
-    MemoryImageLibrary library{faulty, &log};
+    MemoryImageLibrary images{faulty, &log};
     MemoryPictures pictures;
     MemoryFormFactory forms{&log};
     std::optional<ZentarProgram> program;

@@ -49,7 +49,7 @@ struct OneRun {
         files.AddFile("C:\\Zentar\\zentar.ini",
                       "Virgin=0\r\nGame=Quake2\r\nQ2Folder=C:\\Quake2\\\r\nCurMod2=ctf\r\n"
                       "Remote=D:\\Remote\\\r\nExpert=1\r\nAutoNextShot=1\r\n");
-        program.emplace(Platform{faulty, shell, windows, locale, library, pictures, forms});
+        program.emplace(Platform{faulty, shell, windows, locale, images, pictures, forms});
         program->Start();
         Window().Activate();
         Window().UserSelect(IDC_lstScreenshots, "a.tga");
@@ -75,7 +75,7 @@ struct OneRun {
     AdministratorsShell shell{faulty};
     YesWindows windows;
     FixedLocale locale;
-    MemoryImageLibrary library{faulty, &log};
+    MemoryImageLibrary images{faulty, &log};
     MemoryPictures pictures;
     MemoryFormFactory forms{&log};
     std::optional<ZentarProgram> program;

@@ -39,7 +39,7 @@ TEST_P(OvertakenViewing, AnotherSelectionWins) {
     EXPECT_EQ(Selected(), "b.tga *");
     EXPECT_EQ(tab->CurrentShot().Name, "b.tga");
     EXPECT_THAT(Listed(), ElementsAre("a.tga", "b.tga *", "before.tga *"));
-    EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("before.tga"), PathOf("b.tga")));
+    EXPECT_THAT(os.images.Loaded(), ElementsAre(PathOf("before.tga"), PathOf("b.tga")));
 }
 
 TEST_P(OvertakenViewing, ARefreshLeavesNothingSelected) {
@@ -60,7 +60,7 @@ TEST_P(OvertakenViewing, ASelectionAfterARefreshWins) {
     });
     EXPECT_EQ(Shown(), "a");
     EXPECT_EQ(Selected(), "a.tga *");
-    EXPECT_EQ(os.library.Loaded().size(), 2U);
+    EXPECT_EQ(os.images.Loaded().size(), 2U);
 }
 
 TEST_P(OvertakenViewing, AnotherModShowsItsOwnShots) {
@@ -134,7 +134,7 @@ TEST_P(OvertakenViewing, AShotThatCannotBeShownMeanwhileIsNotShownLater) {
     EXPECT_EQ(Selected(), "b.tga");
     EXPECT_EQ(Shown(), "");
     EXPECT_FALSE(Enabled(IDC_imgShotView));
-    EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("before.tga")));
+    EXPECT_THAT(os.images.Loaded(), ElementsAre(PathOf("before.tga")));
 }
 
 TEST_P(OvertakenViewing, AMenuAskedForMeanwhileOpensOnceItsShotIsThere) {
@@ -164,7 +164,7 @@ TEST_P(OvertakenViewing, HoweverManySelectionsNoneRunsInsideAnother) {
     EXPECT_EQ(deepest, 1);
     EXPECT_EQ(Selected(), "s599.tga *");
     EXPECT_EQ(Shown(), "s599");
-    EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("before.tga"), PathOf("s599.tga")));
+    EXPECT_THAT(os.images.Loaded(), ElementsAre(PathOf("before.tga"), PathOf("s599.tga")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Times, OvertakenViewing, ::testing::Values(1, 2));
@@ -209,7 +209,7 @@ TEST_F(OvertakenRefresh, AShotOfTheGameBeforeIsNotTakenForOneOfTheNext) {
     state.current.ScreenshotFolder = "C:\\Quake2\\rocket\\scrnshot\\";
     AddShot("a.tga", {8, 8}, "other");
     Select("a.tga");
-    EXPECT_THAT(os.library.Loaded(), ElementsAre(before + "a.tga"));
+    EXPECT_THAT(os.images.Loaded(), ElementsAre(before + "a.tga"));
     EXPECT_EQ(Listed(), std::vector<std::string>{"a.tga"});
     EXPECT_EQ(Selected(), "");
     EXPECT_EQ(Shown(), "");

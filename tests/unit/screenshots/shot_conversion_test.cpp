@@ -297,7 +297,7 @@ TEST_F(ShotConversionTest, AnOriginalThatHasGoneNeedsNoKillingAndItsPictureIsSav
 TEST_F(ShotConversionTest, HalfAJpgIsNoneAndCostsNeitherTheOriginalNorAnOlderJpg) {
     state.settings.Expert = 1;
     AddJpg(PictureFile({640, 480}, "older"));
-    os.library.SetSavesHalf();
+    os.images.SetSavesHalf();
     os.windows.Expect(notMade_, Answer::Ok);
     Kill();
     os.windows.Expect(notMade_, Answer::Ok);

@@ -196,7 +196,7 @@ TEST_F(ShotDeleteTest, APreviewGoesAndTheShotStaysSelectedAndShown) {
     EXPECT_EQ(tab->CurrentShot().ShotDimsText, "Dims:\t640 x 480 pixels");
     EXPECT_FALSE(tab->CurrentShot().HasPreview);
     EXPECT_FALSE(os.log.Has("imgShotView.SetImage(none)"));
-    EXPECT_EQ(os.library.Loaded().size(), 1U);
+    EXPECT_EQ(os.images.Loaded().size(), 1U);
     EXPECT_TRUE(os.log.Ordered({"ClearAttributes " + PathOf("a.zentar"),
                                 "Delete " + PathOf("a.zentar"), "Pointer Hourglass",
                                 "Enumerate " + state.current.ScreenshotFolder, "Pointer Default"}));
@@ -210,7 +210,7 @@ TEST_F(ShotDeleteTest, AfterwardsTheSameShotIsNotLoadedAgainButAnotherIs) {
     Select("a.tga");
     Pick("a.tga *", IDM_mnuScreenshotDeletePreview);
     Select("a.tga");
-    EXPECT_EQ(os.library.Loaded().size(), 1U);
+    EXPECT_EQ(os.images.Loaded().size(), 1U);
     Select("b.tga");
     EXPECT_EQ(Shown(), "b");
 }

@@ -142,7 +142,7 @@ TEST_F(ShotMenuTest, ALibraryThatCannotBeUsedIsAsNone) {
     AddShot("a.tga");
     Refresh();
     Select("a.tga");
-    os.library.SetBroken();
+    os.images.SetBroken();
     RightClick("a.tga *");
     ExpectGreyed(With(pictureCommands_, {full_, wallpapers_}));
 }

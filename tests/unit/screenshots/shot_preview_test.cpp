@@ -20,7 +20,7 @@ TEST_F(ShotPreviewTest, InPreviewModeOnlyThePreviewIsRead) {
     UsePreviewMode();
     Select("a.tga *");
     EXPECT_EQ(Shown(), "small");
-    EXPECT_THAT(os.library.Loaded(), IsEmpty());
+    EXPECT_THAT(os.images.Loaded(), IsEmpty());
     EXPECT_EQ(os.files.Reads(PathOf("a.tga")).opens, 0);
     EXPECT_EQ(tab->picShotActual().picture, nullptr);
     EXPECT_EQ(Current().ShotDimsText, "Dims:\t(Unknown)");
@@ -64,7 +64,7 @@ TEST_F(ShotPreviewTest, ShiftShowsThePreviewForThatOneSelection) {
     EXPECT_EQ(PreviewCaption(), CaptionColour::Red);
     EXPECT_TRUE(state.ShiftHeld);
     EXPECT_EQ(ViewPointer(), BoxPointer::Default);
-    EXPECT_THAT(os.library.Loaded(), IsEmpty());
+    EXPECT_THAT(os.images.Loaded(), IsEmpty());
     Select("b.tga");
     EXPECT_EQ(Shown(), "b");
     EXPECT_EQ(PreviewCaption(), CaptionColour::Normal);

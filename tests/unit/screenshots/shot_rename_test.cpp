@@ -53,7 +53,7 @@ TEST_F(ShotRenameTest, TheShotAndItsPreviewGetTheNameAndThePictureStays) {
     EXPECT_EQ(tab->CurrentShot().Path, PathOf("duel.TGA"));
     EXPECT_EQ(tab->CurrentShot().ShotDimsText, "Dims:\t640 x 480 pixels");
     EXPECT_FALSE(os.log.Has("imgShotView.SetImage(none)"));
-    EXPECT_EQ(os.library.Loaded().size(), 1U);
+    EXPECT_EQ(os.images.Loaded().size(), 1U);
 }
 
 TEST_F(ShotRenameTest, AfterwardsCommandsWorkOnTheNewName) {

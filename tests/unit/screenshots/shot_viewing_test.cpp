@@ -56,7 +56,7 @@ TEST_F(ShotViewingTest, TheMarkerComesWithoutTheListBeingSeenEmpty) {
     Select("a.tga");
     EXPECT_FALSE(os.log.Has("lstScreenshots.SetItems(0)"));
     EXPECT_EQ(os.log.Count("lstScreenshots.SetItems(1)"), 1U);
-    EXPECT_EQ(os.library.Loaded().size(), 1U);
+    EXPECT_EQ(os.images.Loaded().size(), 1U);
 }
 
 TEST_F(ShotViewingTest, AShotThatHasItsMarkerIsNotListedAnewForNothing) {
@@ -67,7 +67,7 @@ TEST_F(ShotViewingTest, AShotThatHasItsMarkerIsNotListedAnewForNothing) {
     Select("a.tga *");
     tab->lstScreenshots_Click();
     EXPECT_FALSE(os.log.Has("lstScreenshots.SetItems(1)"));
-    EXPECT_EQ(os.library.Loaded().size(), 1U);
+    EXPECT_EQ(os.images.Loaded().size(), 1U);
     EXPECT_EQ(Selected(), "a.tga *");
     EXPECT_EQ(Contents("a.zentar"), PictureFile({320, 240}, "a"));
 }
@@ -92,7 +92,7 @@ TEST_F(ShotViewingTest, EveryKindOfShotIsReadByWhoKnowsIt) {
         EXPECT_EQ(Shown(), std::string(name).substr(0, 1));
         EXPECT_TRUE(Exists(std::string(name).substr(0, 1) + ".zentar"));
     }
-    EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("a.tga"), PathOf("b.PCX")));
+    EXPECT_THAT(os.images.Loaded(), ElementsAre(PathOf("a.tga"), PathOf("b.PCX")));
 }
 
 TEST_F(ShotViewingTest, OnlyAShotThatIsNoJpgCanBeConverted) {
@@ -117,10 +117,10 @@ TEST_F(ShotViewingTest, TheSameEntryTwiceInARowIsLoadedOnce) {
     Select("a.tga");
     Select("a.tga *");
     tab->lstScreenshots_Click();
-    EXPECT_EQ(os.library.Loaded().size(), 1U);
+    EXPECT_EQ(os.images.Loaded().size(), 1U);
     Select("b.tga");
     Select("a.tga *");
-    EXPECT_EQ(os.library.Loaded().size(), 3U);
+    EXPECT_EQ(os.images.Loaded().size(), 3U);
 }
 
 TEST_F(ShotViewingTest, TheBusyImageIsShownWhileTheShotIsLoaded) {

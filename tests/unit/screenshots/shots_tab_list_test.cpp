@@ -106,7 +106,7 @@ TEST_F(ShotsTabList, ARefreshByTheUserTakesThePictureAwayEvenIfTheShotIsSelected
     EXPECT_EQ(Selected(), "");
     Select("a.tga *");
     EXPECT_EQ(Shown(), "a");
-    EXPECT_THAT(os.library.Loaded(), ElementsAre(PathOf("a.tga"), PathOf("a.tga")));
+    EXPECT_THAT(os.images.Loaded(), ElementsAre(PathOf("a.tga"), PathOf("a.tga")));
 }
 
 TEST_F(ShotsTabList, ChangingTheViewModeRefreshesTheList) {
