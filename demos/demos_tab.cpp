@@ -95,15 +95,7 @@ bool DemosTab::lstDemos_KeyDown(Key key) {
 }
 
 void DemosTab::lstDemos_MouseDown() {
-    const std::uint64_t request = ++menuRequests_;
-    controls_.lstDemos.SetFocus();
-    platform_.windows.PumpPending();
-    if (request != menuRequests_) {
-        return;  // the menu was asked for once more meanwhile, and has been shown
-    }
-    controls_.lstDemos.SelectAtPointer();
-    platform_.windows.PumpPending();
-    if (request != menuRequests_) {
+    if (!popup_.SelectAtPointer(controls_.lstDemos, platform_.windows)) {
         return;
     }
     ReadNow();

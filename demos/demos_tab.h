@@ -14,6 +14,7 @@
 #include "core/command_guard.h"
 #include "core/game_info.h"
 #include "core/latest_only.h"
+#include "core/popup_request.h"
 #include "core/program_state.h"
 #include "demos/demo_file_operations.h"
 #include "demos/demo_header.h"
@@ -110,7 +111,7 @@ class DemosTab : public DemoListView {
     PendingReselection pending_;
     CommandGuard commands_;
     LatestOnly reading_;
-    std::uint64_t menuRequests_ = 0;
+    PopupRequest popup_;
     // Counted up with every selection and reset, and with every rebuild: how a procedure notices
     // that another one ran inside it.
     std::uint64_t selections_ = 0;

@@ -121,15 +121,7 @@ void ShotsTab::EnterOnList() {
 }
 
 void ShotsTab::lstScreenshots_MouseDown() {
-    const std::uint64_t request = ++menuRequests_;
-    controls_.lstScreenshots.SetFocus();
-    platform_.windows.PumpPending();
-    if (request != menuRequests_) {
-        return;  // the menu was asked for once more meanwhile, and has been shown
-    }
-    controls_.lstScreenshots.SelectAtPointer();
-    platform_.windows.PumpPending();
-    if (request != menuRequests_) {
+    if (!popup_.SelectAtPointer(controls_.lstScreenshots, platform_.windows)) {
         return;
     }
     if (showing_.Runs()) {

@@ -12,6 +12,7 @@
 
 #include "core/command_guard.h"
 #include "core/latest_only.h"
+#include "core/popup_request.h"
 #include "core/program_state.h"
 #include "platform/platform.h"
 #include "screenshots/shot.h"
@@ -95,7 +96,7 @@ class ShotsTab : public ShotListView {
     bool KeepShotView_ = false;
     CommandGuard commands_;
     LatestOnly showing_;
-    std::uint64_t menuRequests_ = 0;
+    PopupRequest popup_;
     bool menuWaits_ = false;  // until the shot has been loaded
     // Counted up with every selection that shows a shot and with every refresh: how a procedure
     // notices that another one ran inside it.

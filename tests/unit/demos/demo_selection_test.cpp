@@ -252,5 +252,41 @@ TEST_F(DemoSelection, ThePropertiesMakeRoomForTheQuake3Version) {
     EXPECT_EQ(form->TopTwips(IDC_labDemoMap), 1095);
 }
 
+TEST_F(DemoSelection, ASecondRightClickOpensTheMenuOnce) {
+    Use(kQuake2, "ctf");
+    AddDemo("first.dm2", DemoKind::Dm2, {.map = "q2dm1", .levelName = "First"});
+    AddDemo("second.dm2", DemoKind::Dm2, {.map = "q2dm2", .levelName = "Second"});
+    tab->RefreshDemoList();
+    DuringNextPump([this] { RightClick("second"); });
+    RightClick("first");
+    EXPECT_EQ(form->Popups().size(), 1U);
+    EXPECT_EQ(Selected(), "second");
+    EXPECT_EQ(Text(IDC_labDemoName), "Name: Second");
+}
+
+// A key held down on a slow machine.
+TEST_F(DemoSelection, HoweverManySelectionsNoneIsReadInsideAnother) {
+    Use(kQuake2, "ctf");
+    for (int demo = 100; demo < 400; ++demo) {
+        AddDemo(std::to_string(demo) + ".dm2", DemoKind::Dm2,
+                {.map = "q2dm1", .levelName = std::to_string(demo)});
+    }
+    tab->RefreshDemoList();
+    int depth = 0;
+    int deepest = 0;
+    int next = IndexOf("100");
+    os.windows.SetDuringPump([&] {
+        deepest = std::max(deepest, ++depth);
+        if (next < IndexOf("399")) {
+            form->UserSelect(IDC_lstDemos, ++next);
+        }
+        --depth;
+    });
+    Select("100");
+    EXPECT_EQ(deepest, 1);
+    EXPECT_EQ(Selected(), "399");
+    EXPECT_EQ(Text(IDC_labDemoName), "Name: 399");
+}
+
 }  // namespace
 }  // namespace zentar
