@@ -1,52 +1,87 @@
 #include "core/atomic_file.h"
 
+#include <utility>
+
 namespace zentar {
 namespace {
 
-Status WriteAndClose(FileSystem& files, const std::string& path, std::string_view bytes,
-                     Durability durability) {
-    Result<std::unique_ptr<WritableFile>> file = files.OpenForWriting(path, WriteMode::Truncate);
-    if (!file.Ok()) {
-        return file.Error();
-    }
-    if (Status written = file.Value()->Write(bytes); !written.Ok()) {
-        return written;
-    }
-    if (durability == Durability::Flushed) {
-        if (Status flushed = file.Value()->Flush(); !flushed.Ok()) {
-            return flushed;
-        }
-    }
-    return file.Value()->Close();
-}
-
-Status WriteChecked(FileSystem& files, const std::string& path, std::string_view bytes,
-                    Durability durability) {
-    if (Status written = WriteAndClose(files, path, bytes, durability); !written.Ok()) {
-        return written;
-    }
-    const Result<FileInfo> info = files.Info(path);
-    if (!info.Ok()) {
-        return info.Error();
-    }
-    return info.Value().length == bytes.size() ? Status() : Status(FileError::NoSpace);
-}
+// Small pieces are joined: each call of the system costs more than a copy.
+constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 }  // namespace
 
+FileReplacement::FileReplacement(FileSystem& files, std::string path, Durability durability)
+    : files_(files), path_(std::move(path)), temporary_(path_ + ".new"), durability_(durability) {
+    Result<std::unique_ptr<WritableFile>> file =
+        files_.OpenForWriting(temporary_, WriteMode::Truncate);
+    if (file.Ok()) {
+        file_ = std::move(file.Value());
+        opened_ = true;
+    } else {
+        status_ = file.Error();
+    }
+}
+
+FileReplacement::~FileReplacement() {
+    if (finished_ || !opened_) {
+        return;
+    }
+    file_.reset();
+    // What is left of it is of no use to anybody; if it cannot go, the next attempt writes over it.
+    IgnoreFailure(files_.Delete(temporary_));
+}
+
+void FileReplacement::Write(std::string_view bytes) {
+    if (waiting_.size() + bytes.size() > kPiece) {
+        WriteOut(std::exchange(waiting_, {}));
+    }
+    if (bytes.size() > kPiece) {
+        WriteOut(bytes);
+    } else {
+        waiting_ += bytes;
+    }
+}
+
+void FileReplacement::WriteOut(std::string_view bytes) {
+    if (status_.Ok() && !bytes.empty()) {
+        status_ = file_->Write(bytes);
+        length_ += bytes.size();
+    }
+}
+
+Status FileReplacement::CloseChecked() {
+    if (durability_ == Durability::Flushed) {
+        if (Status flushed = file_->Flush(); !flushed.Ok()) {
+            return flushed;
+        }
+    }
+    if (Status closed = file_->Close(); !closed.Ok()) {
+        return closed;
+    }
+    const Result<FileInfo> info = files_.Info(temporary_);
+    if (!info.Ok()) {
+        return info.Error();
+    }
+    return info.Value().length == length_ ? Status() : Status(FileError::NoSpace);
+}
+
+Status FileReplacement::Finish() {
+    WriteOut(std::exchange(waiting_, {}));
+    if (status_.Ok()) {
+        status_ = CloseChecked();
+    }
+    if (status_.Ok()) {
+        status_ = files_.Replace(temporary_, path_);
+    }
+    finished_ = status_.Ok();
+    return status_;
+}
+
 Status ReplaceFileContents(FileSystem& files, const std::string& path, std::string_view bytes,
                            Durability durability) {
-    const std::string temporary = path + ".new";
-    Status done = WriteChecked(files, temporary, bytes, durability);
-    if (done.Ok()) {
-        done = files.Replace(temporary, path);
-    }
-    if (!done.Ok()) {
-        // What is left of it is of no use to anybody; if it cannot go, the next attempt writes
-        // over it.
-        IgnoreFailure(files.Delete(temporary));
-    }
-    return done;
+    FileReplacement replacement(files, path, durability);
+    replacement.Write(bytes);
+    return replacement.Finish();
 }
 
 }  // namespace zentar

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -14,9 +15,38 @@ enum class Durability : std::uint8_t {
     Cached,   // for what the program can make again: after a power cut the file may be empty
 };
 
-// Writes `bytes` whole under a temporary name in the same folder (the path and ".new"), flushes and
-// checks it, and puts it in the place of `path` in one step. On failure `path` is untouched and the
-// temporary file is gone, as far as the disk still allows.
+// A file written piece by piece under a temporary name in the same folder (the path and ".new"),
+// then flushed, checked, and put in the place of `path` in one step. Without that step `path` is
+// untouched and the temporary file is gone, as far as the disk still allows.
+class FileReplacement {
+  public:
+    FileReplacement(FileSystem& files, std::string path,
+                    Durability durability = Durability::Flushed);
+    ~FileReplacement();
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+
+    // What fails first is what Finish gives; nothing is written from then on.
+    void Write(std::string_view bytes);
+    [[nodiscard]] Status Finish();
+
+  private:
+    void WriteOut(std::string_view bytes);
+    Status CloseChecked();
+
+    FileSystem& files_;
+    std::string path_;
+    std::string temporary_;
+    Durability durability_;
+    std::unique_ptr<WritableFile> file_;
+    Status status_;
+    std::string waiting_;  // not yet handed to the file
+    std::uint64_t length_ = 0;
+    bool opened_ = false;
+    bool finished_ = false;
+};
+
+// Replaces a file by `bytes`, whole.
 Status ReplaceFileContents(FileSystem& files, const std::string& path, std::string_view bytes,
                            Durability durability = Durability::Flushed);
 

@@ -6,6 +6,11 @@
 
 namespace zentar {
 
+bool FileExists(FileSystem& files, const std::string& path) {
+    const Result<FileInfo> info = files.Info(path);
+    return info.Ok() && !info.Value().isFolder;
+}
+
 Result<std::string> ReadWholeFile(FileSystem& files, const std::string& path, std::uint64_t most) {
     const Result<std::unique_ptr<ReadableFile>> file = files.OpenForReading(path);
     if (!file.Ok()) {

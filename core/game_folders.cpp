@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/file_reading.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "platform/shell.h"
@@ -27,11 +28,6 @@ constexpr std::array<std::string_view, 14> kNoMods = {".",
 
 std::string ExecutablePath(const GameInfo& info, const GameState& game) {
     return game.GameFolder + std::string(info.executable);
-}
-
-bool FileExists(FileSystem& files, const std::string& path) {
-    const Result<FileInfo> info = files.Info(path);
-    return info.Ok() && !info.Value().isFolder;
 }
 
 void UpdateBaseModPath(const GameInfo& info, GameState& game) {
@@ -84,11 +80,18 @@ bool ChooseGameFolder(ProgramState& state, const Platform& platform) {
 }
 
 void CheckGameFolder(ProgramState& state, const Platform& platform) {
-    const GameInfo* info = state.Info();
-    state.GameFolderOK =
-        info == nullptr || FileExists(platform.files, ExecutablePath(*info, *state.Game()));
+    CheckGameFolder(state, platform, state.settings.Game);
+}
+
+void CheckGameFolder(ProgramState& state, const Platform& platform, const GameId& game) {
+    state.GameFolderOK = true;
+    if (const int index = GameIndex(game); index >= 0) {
+        const auto row = static_cast<std::size_t>(index);
+        state.GameFolderOK =
+            FileExists(platform.files, ExecutablePath(AllGames()[row], state.games[row]));
+    }
     if (!state.GameFolderOK) {
-        platform.windows.Ask(messages::GameFolderUnknown(state.settings.Game));
+        platform.windows.Ask(messages::GameFolderUnknown(game));
     }
 }
 

@@ -20,8 +20,9 @@ bool HoldsNoMod(std::string_view folder);
 // the games must be refreshed. Tells the user of a folder without the game.
 [[nodiscard]] bool ChooseGameFolder(ProgramState& state, const Platform& platform);
 
-// To be run before any command that needs the game: sets state.GameFolderOK, and tells the user
-// when the game's executable is not in its folder.
+// To be run before any command that needs the current game, or a certain one: sets
+// state.GameFolderOK, and tells the user when the game's executable is not in its folder.
 void CheckGameFolder(ProgramState& state, const Platform& platform);
+void CheckGameFolder(ProgramState& state, const Platform& platform, const GameId& game);
 
 }  // namespace zentar
