@@ -1,4 +1,5 @@
-// The windowing system without anybody who answers: message boxes close by themselves.
+// The windowing system without anybody who answers: message boxes and dialogs close by
+// themselves.
 #pragma once
 
 #include "platform/window_services.h"
@@ -13,6 +14,14 @@ class QuietWindows : public WindowServices {
         return message.buttons == MessageButtons::Ok ? Answer::Ok : Answer::Yes;
     }
     std::optional<std::string> AskText(const TextQuestion& /*question*/) override { return {}; }
+    std::optional<std::string> ChooseFileToOpen(const FileQuestion& /*question*/) override {
+        return {};
+    }
+    std::optional<std::string> ChooseFileToSave(const FileQuestion& /*question*/) override {
+        return {};
+    }
+    std::optional<ColourRef> ChooseColour(ColourRef /*shown*/) override { return {}; }
+    Status PutOnClipboard(const std::string& /*text*/) override { return {}; }
     bool HasWindowTitled(const std::string& title) override { return real_.HasWindowTitled(title); }
     void Sound(Beep /*beep*/) override {}
     std::uint16_t KeyState(PollKey key) override { return real_.KeyState(key); }

@@ -51,6 +51,7 @@ void GameSelection::RefreshGame() {
         ShowGameAsSelected(*info);
         SetContext(*info, *state_.Game());
         followers_.FillDemoFilterList(*info);
+        followers_.ArrangeChatFrame(*info);
         followers_.ArrangeDemoInstaller(*info);
         followers_.ArrangeDemoProperties(*info);
     }

@@ -18,6 +18,7 @@ class GameFollowers {
     virtual ~GameFollowers() = default;
     // The phrases that the demo filter offers become the game's map names.
     virtual void FillDemoFilterList(const GameInfo& game) = 0;
+    virtual void ArrangeChatFrame(const GameInfo& game) = 0;
     // The demo installer says what it installs for the game, if anything.
     virtual void ArrangeDemoInstaller(const GameInfo& game) = 0;
     virtual void ArrangeDemoProperties(const GameInfo& game) = 0;

@@ -1,33 +1,12 @@
 #include "core/game_text.h"
 
-#include <array>
 #include <cstddef>
+#include <optional>
+
+#include "platform/code_page.h"
 
 namespace zentar {
 namespace {
-
-// Windows-1252 for the bytes 80 to 9F; the unassigned ones stand for themselves.
-constexpr std::array<char32_t, 32> kHighControls = {
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-
-char32_t ToCodePoint(unsigned char byte) {
-    return byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80U] : byte;
-}
-
-// The byte that stands for a code point, or -1.
-int ToByte(char32_t point) {
-    if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) {
-        return static_cast<int>(point);
-    }
-    for (std::size_t i = 0; i < kHighControls.size(); ++i) {
-        if (kHighControls[i] == point) {
-            return static_cast<int>(0x80 + i);
-        }
-    }
-    return -1;
-}
 
 void AppendUtf8(std::string& text, char32_t point) {
     if (point < 0x80) {
@@ -74,7 +53,7 @@ std::string GameTextToUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
     for (const char c : bytes) {
-        AppendUtf8(text, ToCodePoint(static_cast<unsigned char>(c)));
+        AppendUtf8(text, CodePointOfByte(static_cast<unsigned char>(c)));
     }
     return text;
 }
@@ -84,9 +63,8 @@ std::string Utf8ToGameText(std::string_view utf8) {
     bytes.reserve(utf8.size());
     for (std::size_t at = 0; at < utf8.size();) {
         const std::string_view sequence = utf8.substr(at, SequenceLength(utf8, at));
-        const int byte = ToByte(DecodeSequence(sequence));
-        if (byte >= 0) {
-            bytes += static_cast<char>(byte);
+        if (const auto byte = ByteOfCodePoint(DecodeSequence(sequence))) {
+            bytes += static_cast<char>(*byte);
         } else {
             bytes += sequence;
         }

@@ -1,7 +1,5 @@
 #include "core/program_life.h"
 
-#include <utility>
-
 #include "core/game_folders.h"
 #include "core/messages.h"
 #include "core/text.h"
@@ -12,14 +10,14 @@ namespace zentar {
 
 ProgramLife::ProgramLife(ProgramState& state, const Platform& platform, GameSelection& games,
                          const SettingsControls& settings, TabControl& SSTab1, Timer& tmrQ3Game,
-                         std::function<void()> restoreHiddenPaks)
+                         LifeFollowers& followers)
     : state_(state),
       platform_(platform),
       games_(games),
       settings_(settings),
       SSTab1_(SSTab1),
       tmrQ3Game_(tmrQ3Game),
-      restoreHiddenPaks_(std::move(restoreHiddenPaks)) {}
+      followers_(followers) {}
 
 void ProgramLife::Form2_Load() {
     state_.settings.Virgin = 1;
@@ -37,9 +35,11 @@ void ProgramLife::Form2_Load() {
         state_.games[i].CurMod = AllGames()[i].baseMod;
     }
     state_.settings.AutoShowAll = 1;
+    followers_.LoadCurrentDesign();
     settingsWereRead_ =
         LoadSettings(platform_.files, state_.ProgramFolder, SettingRows(state_, settings_));
     DetectInstalledGames(state_, platform_.files);
+    followers_.FollowSettings();
     games_.RefreshGame();
     RemoveTempFiles();
 }
@@ -72,14 +72,14 @@ bool ProgramLife::Form2_QueryUnload() {
         return false;
     }
     SaveSettingsUnlessUnread();
-    restoreHiddenPaks_();
+    followers_.RestoreHiddenPaks();
     RemoveTempFiles();
     return true;
 }
 
 void ProgramLife::Form2_SessionEnding() {
     SaveSettingsUnlessUnread();
-    restoreHiddenPaks_();
+    followers_.RestoreHiddenPaks();
 }
 
 void ProgramLife::SaveSettingsUnlessUnread() {

@@ -1,8 +1,6 @@
 // The program's life: loading the main window, its first activation, the exit guard and shutdown.
 #pragma once
 
-#include <functional>
-
 #include "core/game_selection.h"
 #include "core/program_state.h"
 #include "core/settings_file.h"
@@ -11,13 +9,25 @@
 
 namespace zentar {
 
+// What the tabs do when the program starts and leaves, filled in by whoever puts the program
+// together.
+class LifeFollowers {
+  public:
+    virtual ~LifeFollowers() = default;
+    // The folders are known, the settings are not: the coloured text kept from the last time.
+    virtual void LoadCurrentDesign() = 0;
+    // The settings have been read, so the tabs follow them.
+    virtual void FollowSettings() = 0;
+    // Puts back what was hidden from a game that played.
+    virtual void RestoreHiddenPaks() = 0;
+};
+
 class ProgramLife {
   public:
-    // tmrQ3Game is the watch over a running game, which keeps the program from leaving;
-    // `restoreHiddenPaks` puts back what was hidden from such a game.
+    // tmrQ3Game is the watch over a running game, which keeps the program from leaving.
     ProgramLife(ProgramState& state, const Platform& platform, GameSelection& games,
                 const SettingsControls& settings, TabControl& SSTab1, Timer& tmrQ3Game,
-                std::function<void()> restoreHiddenPaks);
+                LifeFollowers& followers);
 
     // The start-up of the main window, step by step: folders, defaults, settings, games. Reports
     // nothing; whatever fails leaves its default.
@@ -41,7 +51,7 @@ class ProgramLife {
     SettingsControls settings_;
     TabControl& SSTab1_;
     Timer& tmrQ3Game_;
-    std::function<void()> restoreHiddenPaks_;
+    LifeFollowers& followers_;
     bool settingsWereRead_ = true;
 };
 

@@ -1,5 +1,7 @@
 // The table of all settings.
 
+#include <array>
+#include <optional>
 #include <string>
 
 #include "core/game_text.h"
@@ -90,23 +92,42 @@ void AppendDemoRows(std::vector<SettingRow>& rows, const SettingsControls& contr
     rows.push_back(GameTextRow("DemosFilter=", controls.txtDemoFilter));
 }
 
-void AppendTranscriptRows(std::vector<SettingRow>& rows, AppSettings& settings) {
+void AppendTranscriptRows(std::vector<SettingRow>& rows, AppSettings& settings,
+                          const SettingsControls& controls) {
     rows.push_back(ByteRow("ScanWarn=", settings.ScanWarn));
-    rows.push_back(ByteRow("TranscriptHTML=", settings.TranscriptHTML));
-    rows.push_back(ByteRow("TranscriptGameplay=", settings.TranscriptGameplay));
+    rows.push_back(CheckBoxRow("TranscriptHTML=", controls.chkTranscriptHTML));
+    rows.push_back(CheckBoxRow("TranscriptGameplay=", controls.chkTranscriptGameplay));
     rows.push_back(NumberRow("TranscriptMessages=", settings.TranscriptMessages));
     rows.push_back(NumberRow("TranscriptBackground=", settings.TranscriptBackground));
     for (std::size_t box = 0; box < kPlayerBoxes; ++box) {
         const std::string player = "Player" + std::to_string(box + 1);
-        rows.push_back(TextRow(player + "Name=", settings.PlayerName[box]));
+        rows.push_back(GameTextRow(player + "Name=", *controls.txtPlayer[box]));
         rows.push_back(TextRow(player + "Colour=", settings.PlayerColour[box]));
     }
 }
 
-void AppendQ3TextRows(std::vector<SettingRow>& rows, AppSettings& settings) {
-    rows.push_back(ByteRow("Q3TextType=", settings.Q3TextType));
-    rows.push_back(ByteRow("Q3TextKeyfox=", settings.Q3TextKeyfox));
-    rows.push_back(ByteRow("Q3TextOSP=", settings.Q3TextOSP));
+// Besides keeping the number, selects its option; other numbers select none.
+SettingRow Q3TextTypeRow(std::uint8_t& held,
+                         const std::array<OptionButton*, kQ3TextTypes>& options) {
+    return {"Q3TextType=",
+            [&held, options](std::string_view value) {
+                const std::optional<std::uint8_t> type = ParseByte(value);
+                if (!type) {
+                    return;
+                }
+                if (*type < options.size()) {
+                    options[*type]->SetSelected(true);
+                }
+                held = *type;
+            },
+            [&held] { return std::to_string(held); }};
+}
+
+void AppendQ3TextRows(std::vector<SettingRow>& rows, AppSettings& settings,
+                      const SettingsControls& controls) {
+    rows.push_back(Q3TextTypeRow(settings.Q3TextType, controls.optQ3Text));
+    rows.push_back(CheckBoxRow("Q3TextKeyfox=", controls.chkQ3TextKeyfox));
+    rows.push_back(CheckBoxRow("Q3TextOSP=", controls.chkQ3TextOSP));
     rows.push_back(TextRow("Q3TextText=", settings.Q3TextText));
 }
 
@@ -116,8 +137,8 @@ std::vector<SettingRow> SettingRows(ProgramState& state, const SettingsControls&
     std::vector<SettingRow> rows;
     AppendGameRows(rows, state, controls);
     AppendDemoRows(rows, controls);
-    AppendTranscriptRows(rows, state.settings);
-    AppendQ3TextRows(rows, state.settings);
+    AppendTranscriptRows(rows, state.settings, controls);
+    AppendQ3TextRows(rows, state.settings, controls);
     return rows;
 }
 

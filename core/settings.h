@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -9,10 +10,12 @@
 
 namespace zentar {
 
-inline constexpr int kPlayerBoxes = 24;
+inline constexpr std::size_t kPlayerBoxes = 24;  // of the chat frame
+
+inline constexpr std::size_t kQ3TextTypes = 6;  // what a coloured text may be used for
 
 // Settings that no control holds, and those of controls that keep their value here. Settings that
-// live in a control (the demo filter's, the view mode) are read from and written to it; see
+// live in a control (the demo filter's, the names of players) are read from and written to it; see
 // SettingsControls.
 //
 // Names and phrases are game text (bytes), paths are UTF-8.
@@ -26,16 +29,11 @@ struct AppSettings {
     std::uint8_t AutoNextDemo = 0;
     std::uint8_t BackupAll = 0;
     std::uint8_t ScanWarn = 0;
-    std::uint8_t TranscriptHTML = 1;
-    std::uint8_t TranscriptGameplay = 0;
-    std::int32_t TranscriptMessages = -1;
-    std::int32_t TranscriptBackground = -1;
-    std::array<std::string, kPlayerBoxes> PlayerName;
+    std::int32_t TranscriptMessages = -1;                // a colour, or -1 for none
+    std::int32_t TranscriptBackground = -1;              // likewise
     std::array<std::string, kPlayerBoxes> PlayerColour;  // decimal number, or empty
     std::uint8_t Q3TextType = 0;
-    std::uint8_t Q3TextKeyfox = 0;
-    std::uint8_t Q3TextOSP = 0;
-    std::string Q3TextText;
+    std::string Q3TextText;  // the coloured text saved or opened last
 };
 
 }  // namespace zentar

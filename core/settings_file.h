@@ -3,6 +3,7 @@
 // its own bytes.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -23,6 +24,12 @@ struct SettingsControls {
     OptionButton& optTextNo;
     OptionButton& optTextYes;
     TextBox& txtDemoFilter;
+    CheckBox& chkTranscriptHTML;
+    CheckBox& chkTranscriptGameplay;
+    std::array<TextBox*, kPlayerBoxes> txtPlayer;
+    std::array<OptionButton*, kQ3TextTypes> optQ3Text;  // in the order of their numbers
+    CheckBox& chkQ3TextKeyfox;
+    CheckBox& chkQ3TextOSP;
 };
 
 // One line of the file.

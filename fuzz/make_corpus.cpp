@@ -2,7 +2,9 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
+#include "platform/rtf/rtf_writer.h"
 #include "samples/demo_maker.h"
 #include "samples/shot_maker.h"
 #include "screenshots/busy_image.h"
@@ -121,6 +123,32 @@ void WriteSystemImages(const std::filesystem::path& folder) {
     Write(folder, "bmp_runs", file + '\10' + '\0' + '\1' + std::string(23, '\0') + "\3a\3b");
 }
 
+void WriteRichTexts(const std::filesystem::path& folder) {
+    const std::vector<zentar::ColouredRun> runs = {{"Bo{b}", 0x0000FF},
+                                                   {" Gr\u00F6\u00DFe \U0001F600", 0}};
+    Write(folder, "ours", zentar::WriteRtf(runs));
+    Write(
+        folder, "table_from_zero",
+        "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fswiss MS Sans Serif;}}{\\colortbl\\red0\\green0"
+        "\\blue0;\\red255\\green0\\blue0;}\r\n\\pard\\plain\\f0\\fs17\\cf1 Bo\\plain\\f0 b\\par }");
+    Write(folder, "groups",
+          "{\\rtf1{\\*\\generator x;}\\uc2{\\field{\\*\\fldinst x}{\\fldrslt y}}\\u-10179\\'3f?"
+          "\\u-8704??\\bin3 {}{z\\v v\\v0\\emdash\\~\\line}");
+}
+
+void WriteConsoles(const std::filesystem::path& corpus) {
+    const std::string log =
+        "  0:12 say: ^1Bob^7: hi\r\n  0:13 Kill: 1 2 10: Bob killed Ann by MOD_RAILGUN\r\n"
+        "(Bob) (Base): quad\n<RED> Ann: ^^0<b>\n\1map: no\rAnn to Bob: gg\nBob was railgunned\n"
+        "  0:14 vtell: Ann to Bob: x: print\n  0:15 sayteam: Bob: a\n  1:00 Item: 2 item_quad\n";
+    Write(corpus / "fuzz_speech", "log", "\1\7\20\377" + log);
+    for (const char form : {'0', '1', '2', '3', '4', '5', '6', '7'}) {
+        Write(corpus / "fuzz_transcript", std::string("log_") + form,
+              form + std::string("Bob\0Ann\0<x>\n", 12) + log);
+    }
+    Write(corpus / "fuzz_colour_codes", "name", "^1B^2o^^0b^8 ^^1^7");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -135,5 +163,7 @@ int main(int argc, char** argv) {
     WriteTga(corpus / "fuzz_tga");
     WritePcx(corpus / "fuzz_pcx");
     WriteSystemImages(corpus / "fuzz_bmp_jpg_gif");
+    WriteRichTexts(corpus / "fuzz_rtf");
+    WriteConsoles(corpus);
     return 0;
 }

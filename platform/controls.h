@@ -15,7 +15,9 @@
 #include <vector>
 
 #include "platform/bitmap.h"
+#include "platform/colour.h"
 #include "platform/geometry.h"
+#include "platform/rich_text.h"
 
 namespace zentar {
 
@@ -34,8 +36,6 @@ struct ControlEvents {
     // Gives true when it used the key up; the control then does not see it.
     std::function<bool(Key)> keyDown;
 };
-
-enum class SystemColour : std::uint8_t { Window, ButtonFace };
 
 class Control {
   public:
@@ -134,12 +134,42 @@ class OptionButton : public Control {
     virtual CaptionColour ShownCaptionColour() const = 0;
 };
 
-// Raises change, gotFocus and keyDown.
+// Raises change, gotFocus, doubleClick and keyDown. Its text has its own colour while the box is
+// enabled.
 class TextBox : public Control {
   public:
     virtual void SelectAll() = 0;
-    virtual void SetBackground(SystemColour colour) = 0;
-    virtual SystemColour Background() const = 0;
+    // Puts the caret before the first character, with nothing selected.
+    virtual void PutCaretFirst() = 0;
+    virtual void SetForeground(Colour colour) = 0;
+    virtual Colour Foreground() const = 0;
+    virtual void SetBackground(Colour colour) = 0;
+    virtual Colour Background() const = 0;
+};
+
+// Text that the user edits, each character of it in a colour. It is broken into lines by the
+// control; a character that would break one stands as a blank. What is typed has the colour of the
+// character before it, or in an empty box black, until it is given another. Rich text that is
+// pasted keeps its colours and nothing else. Of what is too long for the box the end is left out.
+//
+// Raises change when its text changes, or its colours by the user, who takes back what was done;
+// and whenever the program sets its content; gotFocus and keyDown. Setting the text makes all of it
+// black.
+class RichTextBox : public Control {
+  public:
+    // Neighbours of one colour are one run.
+    virtual RichText Content() const = 0;
+    // The caret comes to stand first, and the user cannot take back what was done before.
+    virtual void SetContent(const std::vector<ColouredRun>& runs) = 0;
+    // Colours what is selected, which stays selected; with nothing selected, what is typed next
+    // until the caret moves. No event.
+    virtual void ColourSelection(ColourRef colour) = 0;
+    // Where the selection ends, in UTF-16 units from the beginning of the text.
+    virtual int Caret() const = 0;
+    // Selects nothing; a place behind the text is the text's end. Where the caret stands there with
+    // nothing selected, nothing changes: the colour of what is typed next stays.
+    virtual void PutCaret(int place) = 0;
+    virtual void SetBackground(Colour colour) = 0;
 };
 
 // A list of texts with at most one selected; it shows them in the order given. Raises click when

@@ -50,6 +50,7 @@ class Form {
     virtual CheckBox& GetCheckBox(int id) = 0;
     virtual OptionButton& GetOptionButton(int id) = 0;
     virtual TextBox& GetTextBox(int id) = 0;
+    virtual RichTextBox& GetRichTextBox(int id) = 0;
     virtual ListBox& GetListBox(int id) = 0;
     virtual TabControl& GetTab(int id) = 0;
     virtual Timer& GetTimer(int id) = 0;

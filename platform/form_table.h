@@ -9,6 +9,7 @@
 #include <span>
 #include <vector>
 
+#include "platform/colour.h"
 #include "platform/geometry.h"
 
 namespace zentar {
@@ -16,9 +17,11 @@ namespace zentar {
 enum class ControlKind : std::uint8_t {
     Label,
     Button,
+    ColourButton,  // a button whose face is the row's colour
     CheckBox,
     OptionButton,
     TextBox,
+    RichTextBox,
     ListBox,
     Frame,
     Picture,  // `icon` fills its rectangle
@@ -50,8 +53,11 @@ enum ControlFlags : std::uint16_t {
     Borderless = 16,      // frames: neither border nor caption
     PressedByEnter = 32,  // buttons
     Centred = 64,         // labels
-    Heading = 128,        // labels: larger type
+    Heading = 128,        // labels and rich text boxes: larger type
     BreaksWords = 256,    // labels: a word that is wider than the label goes on in the next line
+    ReadOnly = 512,       // text boxes: the user selects and copies, but does not edit
+    ManyLines = 1024,     // text boxes: breaks lines, and scrolls up and down
+    Monospaced = 2048,    // text boxes: Courier New
 };
 
 struct ControlRow {
@@ -65,9 +71,10 @@ struct ControlRow {
     std::uint16_t flags = 0;
     // What a screen reader calls the control, where no caption or label says it.
     const char* name = "";
-    int icon = 0;      // tab pages and pictures: number of an icon resource
-    int interval = 0;  // timers: milliseconds
-    int cursor = 0;    // image and picture boxes: number of the resource of the custom pointer
+    int icon = 0;          // tab pages and pictures: number of an icon resource
+    int interval = 0;      // timers: milliseconds
+    ColourRef colour = 0;  // colour buttons: of the face
+    int cursor = 0;        // image and picture boxes: number of the resource of the custom pointer
 };
 
 enum class MenuKind : std::uint8_t { Menu, Popup, Entry, Separator };

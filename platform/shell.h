@@ -1,6 +1,7 @@
 // What the program asks of the Windows shell and of the system's own folders.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,11 +10,15 @@
 
 namespace zentar {
 
+// How the window of a program that is started opens; it is active in any case.
+enum class StartWindow : std::uint8_t { Minimised, Maximised };
+
 // A program to be started, and the command line that it gets.
 struct ProgramStart {
     std::string folder;      // where the executable is, with a backslash; the program's current one
     std::string executable;  // its file name, which is the command line's first word
     std::string arguments;   // the rest of the command line, as it stands; begins with a blank
+    StartWindow window = StartWindow::Minimised;
 
     bool operator==(const ProgramStart&) const = default;
 };
@@ -34,11 +39,14 @@ class Shell {
     // owned by whichever window of the program is in front and shows `title` above the folders.
     virtual std::optional<std::string> PickFolder(const std::string& title) = 0;
 
-    // Starts the executable of exactly that folder; its window opens minimised, and active. Does
-    // not wait for it.
+    // Starts the executable of exactly that folder. Does not wait for it.
     virtual Status StartProgram(const ProgramStart& start) = 0;
     // Has a web address opened by the program that the user's system has for it.
     virtual Status OpenAddress(const std::string& address) = 0;
+
+    // Has a file opened by the program that the user's system has for its kind; `folder` is that
+    // program's current one.
+    virtual Status OpenFile(const std::string& path, const std::string& folder) = 0;
 
     // Makes a bitmap file the user's desktop wallpaper, from now on and after the next logon.
     virtual Status SetWallpaper(const std::string& path) = 0;

@@ -4,6 +4,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
+
+#include "platform/colour.h"
+#include "platform/result.h"
 
 namespace zentar {
 
@@ -32,6 +36,24 @@ struct TextQuestion {
     bool operator==(const TextQuestion&) const = default;
 };
 
+// A kind of file that a file dialog shows: "Text files (*.txt, *.log)", "*.txt;*.log".
+struct FileKind {
+    std::string label;
+    std::string patterns;
+
+    bool operator==(const FileKind&) const = default;
+};
+
+// What a file dialog is opened with.
+struct FileQuestion {
+    std::string title;
+    std::string folder;  // shown at first
+    std::string name;    // offered at first; without a folder
+    std::vector<FileKind> kinds;
+
+    bool operator==(const FileQuestion&) const = default;
+};
+
 enum class Beep : std::uint8_t { Information, Exclamation };
 enum class PollKey : std::uint8_t { Shift, Control };
 enum class Pointer : std::uint8_t { Default, Hourglass };
@@ -46,6 +68,16 @@ class WindowServices {
     // Shows an input box over that window; gives the answer as it was typed, or nothing when the
     // user cancels. Other event procedures may run meanwhile.
     virtual std::optional<std::string> AskText(const TextQuestion& question) = 0;
+    // Lets the user pick a file that exists; gives its whole path, or nothing when the user
+    // cancels. Other event procedures may run meanwhile.
+    virtual std::optional<std::string> ChooseFileToOpen(const FileQuestion& question) = 0;
+    // Lets the user name a file, which may exist: nothing is asked about that. A name without an
+    // extension gets that of the first kind.
+    virtual std::optional<std::string> ChooseFileToSave(const FileQuestion& question) = 0;
+    // Lets the user pick a colour, `shown` at first; nothing when the user cancels.
+    virtual std::optional<ColourRef> ChooseColour(ColourRef shown) = 0;
+    // Gives a text to every program that pastes one.
+    virtual Status PutOnClipboard(const std::string& text) = 0;
     // Whether a top-level window of any program has exactly this title.
     virtual bool HasWindowTitled(const std::string& title) = 0;
     virtual void Sound(Beep beep) = 0;

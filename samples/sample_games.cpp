@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "samples/demo_maker.h"
+#include "samples/sample_logs.h"
 #include "samples/shot_maker.h"
 
 namespace zentar::samples {
@@ -246,6 +247,9 @@ void WriteSampleGames(const fs::path& games, const SampleOptions& options) {
     for (const SampleFile& file : kFiles) {
         WriteBytes(games / file.path, file.bytes);
     }
+    WriteBytes(games / u8"Quake/id1/qconsole.log", Quake1Log());
+    WriteBytes(games / u8"Quake2/baseq2/condump.txt", Quake2Condump());
+    WriteBytes(games / u8"Quake3/baseq3/qconsole.log", Quake3Log());
     CreateFolders(games);
     WriteExtraDemos(games / u8"Quake2/baseq2/demos", options.extraDemos);
 }

@@ -2,9 +2,11 @@
 
 #include <vector>
 
+#include "ui/chat_frame_table.h"
 #include "ui/demos_tab_table.h"
 #include "ui/form_tables.h"
 #include "ui/misc_tab_table.h"
+#include "ui/q3_text_tab_table.h"
 #include "ui/resource.h"
 #include "ui/shots_tab_table.h"
 
@@ -111,6 +113,8 @@ std::vector<ControlRow> AllControls() {
     Append<ControlRow>(rows, ShotsTabControlRows());
     Append<ControlRow>(rows, DemosTabControlRows());
     Append<ControlRow>(rows, MiscTabControlRows());
+    Append<ControlRow>(rows, ChatFrameControlRows());
+    Append<ControlRow>(rows, Q3TextTabControlRows());
     Append<ControlRow>(rows, kTimerRows);
     return rows;
 }

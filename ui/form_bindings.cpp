@@ -1,8 +1,28 @@
 #include "ui/form_bindings.h"
 
+#include <array>
+
 #include "ui/resource.h"
 
 namespace zentar {
+namespace {
+
+std::array<TextBox*, kPlayerBoxes> PlayerBoxesOf(Form& Form2) {
+    std::array<TextBox*, kPlayerBoxes> boxes{};
+    for (std::size_t box = 0; box < boxes.size(); ++box) {
+        boxes[box] = &Form2.GetTextBox(IDC_txtPlayer1 + static_cast<int>(box));
+    }
+    return boxes;
+}
+
+std::array<OptionButton*, kQ3TextTypes> Q3TextTypesOf(Form& Form2) {
+    return {
+        &Form2.GetOptionButton(IDC_optQ3TextName),     &Form2.GetOptionButton(IDC_optQ3TextServer),
+        &Form2.GetOptionButton(IDC_optQ3TextPublic),   &Form2.GetOptionButton(IDC_optQ3TextTeam),
+        &Form2.GetOptionButton(IDC_optQ3TextAttacker), &Form2.GetOptionButton(IDC_optQ3TextTarget)};
+}
+
+}  // namespace
 
 GameSelectionControls GameSelectionControlsOf(Form& Form2) {
     return {
@@ -27,6 +47,12 @@ SettingsControls SettingsControlsOf(Form& Form2) {
         .optTextNo = Form2.GetOptionButton(IDC_optTextNo),
         .optTextYes = Form2.GetOptionButton(IDC_optTextYes),
         .txtDemoFilter = Form2.GetTextBox(IDC_txtDemoFilter),
+        .chkTranscriptHTML = Form2.GetCheckBox(IDC_chkTranscriptHTML),
+        .chkTranscriptGameplay = Form2.GetCheckBox(IDC_chkTranscriptGameplay),
+        .txtPlayer = PlayerBoxesOf(Form2),
+        .optQ3Text = Q3TextTypesOf(Form2),
+        .chkQ3TextKeyfox = Form2.GetCheckBox(IDC_chkQ3TextKeyfox),
+        .chkQ3TextOSP = Form2.GetCheckBox(IDC_chkQ3TextOSP),
     };
 }
 
@@ -100,6 +126,39 @@ DemoInstallerControls DemoInstallerControlsOf(Form& Form2) {
         .picDemoInstaller = Form2.GetPicture(IDC_picDemoInstaller),
         .labDemoInstaller = Form2.GetLabel(IDC_labDemoInstaller),
         .cmdDemoInstaller = Form2.GetButton(IDC_cmdDemoInstaller),
+    };
+}
+
+ChatFrameControls ChatFrameControlsOf(Form& Form2) {
+    return {
+        .fraChat = Form2.GetFrame(IDC_fraChat),
+        .txtPlayer = PlayerBoxesOf(Form2),
+        .cmdScanForNames = Form2.GetButton(IDC_cmdScanForNames),
+        .cmdClearNames = Form2.GetButton(IDC_cmdClearNames),
+        .cmdCreateTranscript = Form2.GetButton(IDC_cmdCreateTranscript),
+        .chkTranscriptHTML = Form2.GetCheckBox(IDC_chkTranscriptHTML),
+        .chkTranscriptGameplay = Form2.GetCheckBox(IDC_chkTranscriptGameplay),
+        .txtTranscriptMessages = Form2.GetTextBox(IDC_txtTranscriptMessages),
+        .labColourUsed = Form2.GetLabel(IDC_labColourUsed),
+    };
+}
+
+Q3TextControls Q3TextControlsOf(Form& Form2) {
+    return {
+        .rtbQ3Text = Form2.GetRichTextBox(IDC_rtbQ3Text),
+        .cmdColour = {&Form2.GetButton(IDC_cmdQ3TextBlack), &Form2.GetButton(IDC_cmdQ3TextRed),
+                      &Form2.GetButton(IDC_cmdQ3TextGreen), &Form2.GetButton(IDC_cmdQ3TextYellow),
+                      &Form2.GetButton(IDC_cmdQ3TextBlue), &Form2.GetButton(IDC_cmdQ3TextCyan),
+                      &Form2.GetButton(IDC_cmdQ3TextMagenta), &Form2.GetButton(IDC_cmdQ3TextWhite)},
+        .optQ3Text = Q3TextTypesOf(Form2),
+        .chkQ3TextKeyfox = Form2.GetCheckBox(IDC_chkQ3TextKeyfox),
+        .chkQ3TextOSP = Form2.GetCheckBox(IDC_chkQ3TextOSP),
+        .txtQ3TextCode = Form2.GetTextBox(IDC_txtQ3TextCode),
+        .cmdQ3TextSave = Form2.GetButton(IDC_cmdQ3TextSave),
+        .cmdQ3TextOpen = Form2.GetButton(IDC_cmdQ3TextOpen),
+        .cmdQ3TextClipboard = Form2.GetButton(IDC_cmdQ3TextClipboard),
+        .cmdQ3TextQ3Config = Form2.GetButton(IDC_cmdQ3TextQ3Config),
+        .chkQ3TextAddSlash = Form2.GetCheckBox(IDC_chkQ3TextAddSlash),
     };
 }
 

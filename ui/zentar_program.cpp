@@ -39,12 +39,15 @@ void ZentarProgram::BuildMainWindow() {
         [this] { return state_.FirstActivationDone; });
     installer_ =
         std::make_unique<DemoInstaller>(state_, platform_, DemoInstallerControlsOf(Form2), *demos_);
+    chat_ = std::make_unique<ChatFrame>(state_, platform_, ChatFrameControlsOf(Form2));
+    q3Text_ = std::make_unique<Q3TextTab>(state_, platform_, Q3TextControlsOf(Form2));
     GameFollowers& followers = *this;
     games_ = std::make_unique<GameSelection>(state_, platform_, GameSelectionControlsOf(Form2),
                                              followers);
+    LifeFollowers& lifeFollowers = *this;
     life_ = std::make_unique<ProgramLife>(state_, platform_, *games_, SettingsControlsOf(Form2),
                                           Form2.GetTab(IDC_SSTab1), Form2.GetTimer(IDC_tmrQ3Game),
-                                          [this] { demos_->RestoreHiddenPaks(); });
+                                          lifeFollowers);
 }
 
 void ZentarProgram::BindMainWindow() {
@@ -84,6 +87,8 @@ void ZentarProgram::ShowFullSize(BitmapPtr shot) {
 
 void ZentarProgram::FillDemoFilterList(const GameInfo& game) { demos_->FillPhraseList(game); }
 
+void ZentarProgram::ArrangeChatFrame(const GameInfo& game) { chat_->Arrange(game); }
+
 void ZentarProgram::ArrangeDemoInstaller(const GameInfo& game) { installer_->Arrange(game); }
 
 void ZentarProgram::ArrangeDemoProperties(const GameInfo& game) {
@@ -95,5 +100,15 @@ void ZentarProgram::ResetPreviewCaption() { shots_->ResetPreviewCaption(); }
 void ZentarProgram::RefreshScreenshotList() { shots_->RefreshScreenshotList(); }
 
 void ZentarProgram::RefreshDemoList() { demos_->RefreshDemoList(); }
+
+void ZentarProgram::LoadCurrentDesign() { q3Text_->LoadCurrent(); }
+
+void ZentarProgram::FollowSettings() {
+    chat_->chkTranscriptHTML_Click();
+    q3Text_->LoadLastUsed();
+    chat_->txtPlayer_Change();
+}
+
+void ZentarProgram::RestoreHiddenPaks() { demos_->RestoreHiddenPaks(); }
 
 }  // namespace zentar

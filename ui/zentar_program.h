@@ -12,12 +12,14 @@
 #include "demos/demos_tab.h"
 #include "platform/form.h"
 #include "platform/platform.h"
+#include "q3tools/q3_text_tab.h"
 #include "screenshots/full_view.h"
 #include "screenshots/shots_tab.h"
+#include "transcripts/chat_frame.h"
 
 namespace zentar {
 
-class ZentarProgram final : private GameFollowers {
+class ZentarProgram final : private GameFollowers, private LifeFollowers {
   public:
     explicit ZentarProgram(const Platform& platform);
     ~ZentarProgram() override;
@@ -37,11 +39,16 @@ class ZentarProgram final : private GameFollowers {
     void ShowFullSize(BitmapPtr shot);
 
     void FillDemoFilterList(const GameInfo& game) override;
+    void ArrangeChatFrame(const GameInfo& game) override;
     void ArrangeDemoInstaller(const GameInfo& game) override;
     void ArrangeDemoProperties(const GameInfo& game) override;
     void ResetPreviewCaption() override;
     void RefreshScreenshotList() override;
     void RefreshDemoList() override;
+
+    void LoadCurrentDesign() override;
+    void FollowSettings() override;
+    void RestoreHiddenPaks() override;
 
     Platform platform_;
     ProgramState state_;
@@ -49,6 +56,8 @@ class ZentarProgram final : private GameFollowers {
     std::unique_ptr<ShotsTab> shots_;
     std::unique_ptr<DemosTab> demos_;
     std::unique_ptr<DemoInstaller> installer_;
+    std::unique_ptr<ChatFrame> chat_;
+    std::unique_ptr<Q3TextTab> q3Text_;
     std::unique_ptr<GameSelection> games_;
     std::unique_ptr<ProgramLife> life_;
     std::unique_ptr<Form> Form3_;

@@ -38,24 +38,60 @@ bool TakesFocus(ControlKind kind) {
 
 ControlWindow::ControlWindow(const ControlPlace& place, const ControlStyle& style)
     : host_(place.host), row_(place.row), surface_(place.surface) {
-    handle_ = CreateWindowExW(style.exStyle, style.windowClass, Widen(row_.caption).c_str(),
-                              CommonStyle(row_) | style.style, place.at.left, place.at.top,
-                              place.at.width, place.at.height, place.parent,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(row_.id)),
-                              place.instance, nullptr);
+    Attach(CreateWindowExW(style.exStyle, style.windowClass, Widen(row_.caption).c_str(),
+                           CommonStyle(row_) | style.style, place.at.left, place.at.top,
+                           place.at.width, place.at.height, place.parent,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(row_.id)), place.instance,
+                           nullptr));
+}
+
+ControlWindow::~ControlWindow() { Detach(); }
+
+void ControlWindow::Attach(HWND window) {
+    handle_ = window;
     SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     // Not by the common controls' own way to do this, which asks for a property as well.
     system_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
 }
 
-ControlWindow::~ControlWindow() { Detach(); }
-
 void ControlWindow::Detach() {
     if (handle_ != nullptr) {
         SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_));
         handle_ = nullptr;
     }
+}
+
+bool ControlWindow::ReplaceWindow(const ControlStyle& style, const std::function<void()>& prepare) {
+    const HWND former = handle_;
+    const HWND parent = GetParent(former);
+    RECT place{};
+    GetWindowRect(former, &place);
+    MapWindowPoints(HWND_DESKTOP, parent, reinterpret_cast<POINT*>(&place), 2);
+    const DWORD disabled = Enabled() ? 0 : WS_DISABLED;
+    const HWND window = CreateWindowExW(
+        style.exStyle, style.windowClass, L"", WS_CHILD | WS_CLIPSIBLINGS | disabled | style.style,
+        place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row_.id)),
+        reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(former, GWLP_HINSTANCE)), nullptr);
+    if (window == nullptr) {
+        return false;
+    }
+    const bool visible = Visible();
+    const bool focused = GetFocus() == former;
+    const auto font = static_cast<WPARAM>(Send(WM_GETFONT));
+    Detach();
+    Attach(window);
+    host_.OnControlReplaced(row_, former, window);
+    Send(WM_SETFONT, font, FALSE);
+    prepare();
+    SetWindowPos(window, former, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | (visible ? SWP_SHOWWINDOW : 0));
+    if (focused) {
+        ::SetFocus(window);
+    }
+    DestroyWindow(former);
+    return true;
 }
 
 // Only a control's window has this procedure. (A property would say it as well, but costs Wine a
@@ -81,6 +117,10 @@ LRESULT CALLBACK ControlWindow::Procedure(HWND window, UINT message, WPARAM wPar
         self->Detach();
     }
     return answer ? *answer : CallWindowProcW(system, window, message, wParam, lParam);
+}
+
+LRESULT ControlWindow::PassOn(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return CallWindowProcW(system_, handle_, message, wParam, lParam);
 }
 
 std::optional<LRESULT> ControlWindow::OnMessage(UINT message, WPARAM /*wParam*/, LPARAM lParam) {

@@ -25,6 +25,8 @@ class ControlHost {
     virtual FocusKeeper& Focus() = 0;
     virtual void MoveTop(const ControlRow& row, int twips) = 0;
     virtual void SetTooltipOf(HWND control, const std::string& text) = 0;
+    // The control's window is another one from now on; the former one is about to go.
+    virtual void OnControlReplaced(const ControlRow& row, HWND former, HWND window) = 0;
     // A control's menu is about to be asked for; a popup opens where that came from.
     virtual void NoteMenuRequest(bool byKeyboard) = 0;
     // The program is at work: no control shows a pointer of its own.
@@ -90,8 +92,17 @@ class ControlWindow {
     void SetTooltip(const std::string& text);
 
   protected:
-    // The control's own messages, before the system's window procedure; nothing passes them on.
+    // The control's own messages, before the system's window procedure, which gets those that it
+    // does not answer.
     virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // Gives the system's window procedure a message before OnMessage is done with it.
+    LRESULT PassOn(UINT message, WPARAM wParam, LPARAM lParam) const;
+
+    // Puts a window of another kind in the place of the control's: it stands there with the same
+    // number, state and font, and has the focus where the former one had it. `prepare` runs while
+    // it is the control's window already but cannot be seen yet. False, and everything as it was,
+    // when there is no such window.
+    bool ReplaceWindow(const ControlStyle& style, const std::function<void()>& prepare);
 
     void Raise(std::function<void()> ControlEvents::*event);
     void RaiseMenuRequest(bool byKeyboard);
@@ -105,6 +116,7 @@ class ControlWindow {
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void Attach(HWND window);
     void Detach();
 
     ControlHost& host_;

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "platform/nviewlib/win32/resources.h"
+#include "platform/win32/shell_item.h"
 #include "platform/win32/win32_file_error.h"
 #include "platform/win32/win32_path.h"
 
@@ -28,13 +29,6 @@ FileError ErrorOf(HRESULT failure) {
     }
     const auto code = static_cast<DWORD>(HRESULT_CODE(failure));
     return code == ERROR_CANCELLED ? FileError::AccessDenied : FileErrorOf(code);
-}
-
-ComPointer<IShellItem> ItemOf(const std::wstring& path) {
-    return Made<IShellItem>([&](IShellItem** item) {
-        return SHCreateItemFromParsingName(path.c_str(), nullptr, IID_IShellItem,
-                                           reinterpret_cast<void**>(item));
-    });
 }
 
 // Has one operation prepared, then done.

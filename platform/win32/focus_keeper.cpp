@@ -11,6 +11,14 @@ void FocusKeeper::AddControl(HWND control, bool getsFirstFocus) {
     }
 }
 
+void FocusKeeper::ReplaceControl(HWND control, HWND by) {
+    std::replace(controls_.begin(), controls_.end(), control, by);
+    std::replace(lateOnes_.begin(), lateOnes_.end(), control, by);
+    if (remembered_ == control) {
+        remembered_ = by;
+    }
+}
+
 // A control of a disabled frame, or of a tab page that is not in front, cannot take the focus.
 // Whether the form itself is visible or waits behind a dialog does not matter.
 bool FocusKeeper::CanTake(HWND control) const {

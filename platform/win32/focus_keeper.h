@@ -14,6 +14,9 @@ class FocusKeeper {
     // control do not get the focus when the form comes up: what the user came for is on the page.
     void AddControl(HWND control, bool getsFirstFocus);
 
+    // Another window stands where the control was.
+    void ReplaceControl(HWND control, HWND by);
+
     // Whether the control is visible and enabled, and all that it stands in as well.
     bool CanTake(HWND control) const;
     // Gives the control the focus; in a window that is not in front, once it comes there, since

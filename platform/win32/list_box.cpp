@@ -1,9 +1,7 @@
 #include "platform/win32/list_box.h"
 
 #include <algorithm>
-#include <utility>
 
-#include "platform/win32/control_colour.h"
 #include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_text.h"
 
@@ -33,8 +31,8 @@ Win32ListBox::Win32ListBox(const ControlPlace& place)
                           WS_TABSTOP | WS_GROUP | WS_VSCROLL | WS_HSCROLL | LBS_HASSTRINGS |
                               LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
                           WS_EX_CLIENTEDGE}),
-      background_((place.row.flags & StartsGrey) != 0 ? SystemColour::ButtonFace
-                                                      : SystemColour::Window) {}
+      colours_((place.row.flags & StartsGrey) != 0 ? SystemColour::ButtonFace
+                                                   : SystemColour::Window) {}
 
 // The list itself stops to draw by the one call, its scroll bars by the other, which has a price
 // and is of no use while nobody sees the list.
@@ -130,7 +128,7 @@ void Win32ListBox::SelectAtPointer() {
 }
 
 void Win32ListBox::SetBackground(SystemColour colour) {
-    if (std::exchange(background_, colour) != colour) {
+    if (colours_.SetBackground(colour)) {
         InvalidateRect(Handle(), nullptr, TRUE);
     }
 }
@@ -155,7 +153,7 @@ void Win32ListBox::NoteSelection() {
     }
 }
 
-HBRUSH Win32ListBox::OnColour(HDC context) { return PaintOnColour(background_, Handle(), context); }
+HBRUSH Win32ListBox::OnColour(HDC context) { return colours_.Apply(Handle(), context); }
 
 void Win32ListBox::OnLayout() {
     auto* const font = reinterpret_cast<HFONT>(Send(WM_GETFONT));

@@ -1,6 +1,7 @@
 // A list of texts.
 #pragma once
 
+#include "platform/win32/control_colour.h"
 #include "platform/win32/control_window.h"
 
 namespace zentar {
@@ -17,7 +18,9 @@ class Win32ListBox : public ControlBase<ListBox> {
     void Select(int index) override;
     void SelectAtPointer() override;
     void SetBackground(SystemColour colour) override;
-    SystemColour Background() const override { return background_; }
+    SystemColour Background() const override {
+        return std::get<SystemColour>(colours_.Background());
+    }
 
     void OnCommand(WORD code) override;
     HBRUSH OnColour(HDC context) override;
@@ -32,7 +35,7 @@ class Win32ListBox : public ControlBase<ListBox> {
     void UpdateWidth();
 
     int known_ = -1;  // the selection that the program has been told
-    SystemColour background_;
+    TextColours colours_;
     HFONT measuredIn_ = nullptr;
 };
 

@@ -15,20 +15,22 @@ namespace {
 
 // The cross compiler's headers do not have this one by its name, ERROR_ELEVATION_REQUIRED.
 constexpr DWORD kElevationRequired = 740;
-// Minimised and active.
-constexpr WORD kShowState = SW_SHOWMINIMIZED;
 
 struct Place {
     std::wstring folder;
     std::wstring file;  // with its folder, or else Windows would look for it elsewhere as well
 };
 
+WORD ShowStateOf(StartWindow window) {
+    return window == StartWindow::Maximised ? SW_SHOWMAXIMIZED : SW_SHOWMINIMIZED;
+}
+
 // Gives the system's error code.
-DWORD Start(const Place& place, std::wstring commandLine) {
+DWORD Start(const Place& place, std::wstring commandLine, WORD showState) {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = kShowState;
+    startup.wShowWindow = showState;
     PROCESS_INFORMATION started{};
     if (!CreateProcessW(place.file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
                         place.folder.c_str(), &startup, &started)) {
@@ -40,7 +42,7 @@ DWORD Start(const Place& place, std::wstring commandLine) {
 }
 
 // Games of that age are often set to run as administrator, which only the shell can ask for.
-DWORD StartElevated(const Place& place, const std::wstring& arguments, HWND owner) {
+DWORD StartElevated(const Place& place, const std::wstring& arguments, WORD showState, HWND owner) {
     SHELLEXECUTEINFOW execute{};
     execute.cbSize = sizeof execute;
     execute.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
@@ -48,7 +50,7 @@ DWORD StartElevated(const Place& place, const std::wstring& arguments, HWND owne
     execute.lpFile = place.file.c_str();
     execute.lpParameters = arguments.c_str();
     execute.lpDirectory = place.folder.c_str();
-    execute.nShow = kShowState;
+    execute.nShow = showState;
     return ShellExecuteExW(&execute) ? ERROR_SUCCESS : GetLastError();
 }
 
@@ -69,9 +71,10 @@ Status StartProgramFile(const ProgramStart& start, HWND owner) {
     }
     const Place place{PlainPath(*folder), PlainPath(*file)};
     const std::wstring arguments = Widen(start.arguments);
-    DWORD error = Start(place, Widen(start.executable) + arguments);
+    const WORD showState = ShowStateOf(start.window);
+    DWORD error = Start(place, Widen(start.executable) + arguments, showState);
     if (error == kElevationRequired) {
-        error = StartElevated(place, WithoutLeadingBlank(arguments), owner);
+        error = StartElevated(place, WithoutLeadingBlank(arguments), showState, owner);
     }
     return error == ERROR_SUCCESS ? Status() : Status(FileErrorOf(error));
 }

@@ -2,17 +2,28 @@
 
 #include <utility>
 
-#include "platform/win32/control_colour.h"
 #include "platform/win32/event_dispatcher.h"
 #include "platform/win32/focus_keeper.h"
 
 namespace zentar {
+namespace {
+
+constexpr WPARAM kControlA = 1;  // as a character
+
+DWORD TextStyle(const ControlRow& row) {
+    const bool manyLines = (row.flags & ManyLines) != 0;
+    return WS_TABSTOP | WS_GROUP |
+           (manyLines ? ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL) |
+           ((row.flags & ReadOnly) != 0 ? ES_READONLY : 0);
+}
+
+}  // namespace
 
 Win32TextBox::Win32TextBox(const ControlPlace& place)
-    : ControlBase(place, {L"EDIT", WS_TABSTOP | WS_GROUP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE}),
+    : ControlBase(place, {L"EDIT", TextStyle(place.row), WS_EX_CLIENTEDGE}),
       known_(place.row.caption),
-      background_((place.row.flags & StartsGrey) != 0 ? SystemColour::ButtonFace
-                                                      : SystemColour::Window) {
+      colours_((place.row.flags & StartsGrey) != 0 ? SystemColour::ButtonFace
+                                                   : SystemColour::Window) {
     Send(EM_SETLIMITTEXT, 0);
 }
 
@@ -23,8 +34,19 @@ void Win32TextBox::SetText(const std::string& text) {
 
 void Win32TextBox::SelectAll() { Send(EM_SETSEL, 0, -1); }
 
-void Win32TextBox::SetBackground(SystemColour colour) {
-    if (std::exchange(background_, colour) != colour) {
+void Win32TextBox::PutCaretFirst() {
+    Send(EM_SETSEL, 0, 0);
+    Send(EM_SCROLLCARET);
+}
+
+void Win32TextBox::SetForeground(Colour colour) {
+    if (colours_.SetForeground(colour)) {
+        InvalidateRect(Handle(), nullptr, TRUE);
+    }
+}
+
+void Win32TextBox::SetBackground(Colour colour) {
+    if (colours_.SetBackground(colour)) {
         InvalidateRect(Handle(), nullptr, TRUE);
     }
 }
@@ -46,7 +68,7 @@ void Win32TextBox::OnCommand(WORD code) {
     }
 }
 
-HBRUSH Win32TextBox::OnColour(HDC context) { return PaintOnColour(background_, Handle(), context); }
+HBRUSH Win32TextBox::OnColour(HDC context) { return colours_.Apply(Handle(), context); }
 
 // When getting the focus selected the text, the click that gave it would clear the selection again.
 bool Win32TextBox::ClickOnlyFocuses() const {
@@ -60,9 +82,37 @@ bool Win32TextBox::ClickOnlyFocuses() const {
     return first != last;
 }
 
+// The system selects the word, and follows the mouse from then on. It is told that the button is up
+// again, since the program may open a dialog now, where it will really come up.
+LRESULT Win32TextBox::DoubleClick(WPARAM keys, LPARAM at) {
+    const LRESULT answer = PassOn(WM_LBUTTONDBLCLK, keys, at);
+    PassOn(WM_LBUTTONUP, 0, at);
+    Raise(&ControlEvents::doubleClick);
+    return answer;
+}
+
+// A box of one line knows Ctrl+A by itself, but not on every system a box of many. A line ends
+// there by Ctrl+M, too, and with the Tab key something would be typed that no line here has.
+std::optional<LRESULT> Win32TextBox::OnCharacter(WPARAM character) {
+    if (character == kControlA) {
+        SelectAll();
+        return 0;
+    }
+    const bool breaks = character == '\r' || character == '\n' || character == '\t';
+    return breaks ? std::optional<LRESULT>(0) : std::nullopt;
+}
+
 std::optional<LRESULT> Win32TextBox::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_LBUTTONDOWN && ClickOnlyFocuses()) {
         return 0;
+    }
+    if (message == WM_LBUTTONDBLCLK && Events().doubleClick) {
+        return DoubleClick(wParam, lParam);
+    }
+    if (message == WM_CHAR) {
+        if (const std::optional<LRESULT> answer = OnCharacter(wParam)) {
+            return answer;
+        }
     }
     return ControlBase::OnMessage(message, wParam, lParam);
 }

@@ -1,6 +1,7 @@
-// One line of text that the user edits.
+// Text that the user edits, or only reads and copies: one line of it, or as many as it needs.
 #pragma once
 
+#include "platform/win32/control_colour.h"
 #include "platform/win32/control_window.h"
 
 namespace zentar {
@@ -11,8 +12,11 @@ class Win32TextBox : public ControlBase<TextBox> {
 
     void SetText(const std::string& text) override;
     void SelectAll() override;
-    void SetBackground(SystemColour colour) override;
-    SystemColour Background() const override { return background_; }
+    void PutCaretFirst() override;
+    void SetForeground(Colour colour) override;
+    Colour Foreground() const override { return colours_.Foreground(); }
+    void SetBackground(Colour colour) override;
+    Colour Background() const override { return colours_.Background(); }
 
     void OnCommand(WORD code) override;
     HBRUSH OnColour(HDC context) override;
@@ -23,9 +27,11 @@ class Win32TextBox : public ControlBase<TextBox> {
   private:
     void NoteText();
     bool ClickOnlyFocuses() const;
+    LRESULT DoubleClick(WPARAM keys, LPARAM at);
+    std::optional<LRESULT> OnCharacter(WPARAM character);
 
     std::string known_;  // the text that the program has been told
-    SystemColour background_;
+    TextColours colours_;
 };
 
 }  // namespace zentar

@@ -156,6 +156,7 @@ Button& Win32Form::GetButton(int id) { return Find<Button>(id); }
 CheckBox& Win32Form::GetCheckBox(int id) { return Find<CheckBox>(id); }
 OptionButton& Win32Form::GetOptionButton(int id) { return Find<OptionButton>(id); }
 TextBox& Win32Form::GetTextBox(int id) { return Find<TextBox>(id); }
+RichTextBox& Win32Form::GetRichTextBox(int id) { return Find<RichTextBox>(id); }
 ListBox& Win32Form::GetListBox(int id) { return Find<ListBox>(id); }
 TabControl& Win32Form::GetTab(int id) { return Find<TabControl>(id); }
 

@@ -55,6 +55,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     CheckBox& GetCheckBox(int id) override;
     OptionButton& GetOptionButton(int id) override;
     TextBox& GetTextBox(int id) override;
+    RichTextBox& GetRichTextBox(int id) override;
     ListBox& GetListBox(int id) override;
     TabControl& GetTab(int id) override;
     Timer& GetTimer(int id) override;
@@ -73,6 +74,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     void SetTooltipOf(HWND control, const std::string& text) override {
         tooltips_->Set(control, text);
     }
+    void OnControlReplaced(const ControlRow& row, HWND former, HWND window) override;
     void NoteMenuRequest(bool byKeyboard) override { menuByKeyboard_ = byKeyboard; }
     bool ShowsHourglass() const override { return session_.pointer == Pointer::Hourglass; }
 
@@ -93,6 +95,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     RECT FirstPlace(HWND over) const;
     void MoveWindowTo(const RECT& place) const;
     void ApplyDpi();
+    HFONT FontOf(const ControlRow& row) const;
     std::vector<Rect> ComputePlaces() const;
     void Layout();
 
@@ -123,6 +126,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     std::optional<LRESULT> OnSetFocus(WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> OnSettingChange(WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> OnSize(WPARAM wParam, LPARAM lParam);
+    std::optional<LRESULT> OnSystemColours(WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> OnTimer(WPARAM wParam, LPARAM lParam);
 
     bool MayRunOutermost() const;
@@ -151,6 +155,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     UniqueIcon largeIcon_;
     int dpi_ = 96;
     bool shown_ = false;  // has been, once
+    bool named_ = false;  // the controls are, for screen readers
     bool modal_ = false;
     bool activationWaits_ = false;
     bool closeWaits_ = false;

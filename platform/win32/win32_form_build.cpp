@@ -5,12 +5,14 @@
 
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/buttons.h"
+#include "platform/win32/colour_button.h"
 #include "platform/win32/image_box.h"
 #include "platform/win32/label.h"
 #include "platform/win32/list_box.h"
 #include "platform/win32/panel.h"
 #include "platform/win32/picture.h"
 #include "platform/win32/picture_box.h"
+#include "platform/win32/rich_text_box.h"
 #include "platform/win32/tab_control.h"
 #include "platform/win32/text_box.h"
 #include "platform/win32/win32_form.h"
@@ -107,6 +109,8 @@ std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place)
             return std::make_unique<Win32Label>(place);
         case ControlKind::Button:
             return std::make_unique<Win32Button>(place);
+        case ControlKind::ColourButton:
+            return std::make_unique<Win32ColourButton>(place);
         case ControlKind::CheckBox:
             return std::make_unique<Win32CheckBox>(place);
         case ControlKind::OptionButton: {
@@ -119,6 +123,8 @@ std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place)
         }
         case ControlKind::TextBox:
             return std::make_unique<Win32TextBox>(place);
+        case ControlKind::RichTextBox:
+            return std::make_unique<Win32RichTextBox>(place);
         case ControlKind::ListBox:
             return std::make_unique<Win32ListBox>(place);
         case ControlKind::Frame:
@@ -149,8 +155,17 @@ void Win32Form::NameControlsOncePainted() {
 void Win32Form::NameControls() {
     KillTimer(window_.Get(), kNamingTimer);
     session_.ole.Need();
+    named_ = true;
     for (const auto& control : controls_) {
         SetAccessibleName(control->Handle(), control->Row().name);
+    }
+}
+
+void Win32Form::OnControlReplaced(const ControlRow& row, HWND former, HWND window) {
+    focus_.ReplaceControl(former, window);
+    tooltips_->Replace(former, window);
+    if (named_) {
+        SetAccessibleName(window, row.name);
     }
 }
 

@@ -100,7 +100,8 @@ bool Win32Form::OnProgramKey(Key key, ControlWindow* control) {
 // Presses the button that has the focus, or else the default one. There is no beep when there is
 // none: the user only finished typing.
 bool Win32Form::OnEnter(ControlWindow* control) {
-    const bool isButton = control != nullptr && control->Row().kind == ControlKind::Button;
+    const bool isButton =
+        control != nullptr && dynamic_cast<Button*>(&control->AsControl()) != nullptr;
     ControlWindow* button = isButton ? control : ControlWindow::Of(DefaultButton());
     if (button != nullptr) {
         button->OnCommand(BN_CLICKED);

@@ -75,9 +75,8 @@ void Win32Form::ApplyDpi() {
     // The controls still draw with the old fonts until each has its new one.
     const std::optional<Fonts> old = std::exchange(fonts_, Fonts(dpi_));
     for (const auto& control : controls_) {
-        const bool heading = (control->Row().flags & Heading) != 0;
         SendMessageW(control->Handle(), WM_SETFONT,
-                     reinterpret_cast<WPARAM>(heading ? fonts_->Heading() : fonts_->Text()), FALSE);
+                     reinterpret_cast<WPARAM>(FontOf(control->Row())), FALSE);
         control->OnDpi(dpi_);
     }
     tooltips_->SetDpi(dpi_);
@@ -87,6 +86,13 @@ void Win32Form::ApplyDpi() {
         control->OnLayout();
     }
     RedrawWindow(window_.Get(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+HFONT Win32Form::FontOf(const ControlRow& row) const {
+    if ((row.flags & Heading) != 0) {
+        return fonts_->Heading();
+    }
+    return (row.flags & Monospaced) != 0 ? fonts_->Monospaced() : fonts_->Text();
 }
 
 std::vector<Rect> Win32Form::ComputePlaces() const {

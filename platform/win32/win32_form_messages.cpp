@@ -27,6 +27,7 @@ const Win32Form::Handler Win32Form::kHandlers[] = {
     {WM_SETFOCUS, &Win32Form::OnSetFocus},
     {WM_SETTINGCHANGE, &Win32Form::OnSettingChange},
     {WM_SIZE, &Win32Form::OnSize},
+    {WM_SYSCOLORCHANGE, &Win32Form::OnSystemColours},
     {WM_TIMER, &Win32Form::OnTimer},
     {DM_GETDEFID, &Win32Form::OnDefaultId},
     {kResumeMessage, &Win32Form::OnResume},
@@ -169,6 +170,14 @@ std::optional<LRESULT> Win32Form::OnSize(WPARAM wParam, LPARAM /*lParam*/) {
         Layout();
     }
     return 0;
+}
+
+// The system tells only the form.
+std::optional<LRESULT> Win32Form::OnSystemColours(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    for (const auto& control : controls_) {
+        SendMessageW(control->Handle(), WM_SYSCOLORCHANGE, 0, 0);
+    }
+    return std::nullopt;
 }
 
 std::optional<LRESULT> Win32Form::OnTimer(WPARAM wParam, LPARAM /*lParam*/) {

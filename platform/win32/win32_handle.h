@@ -89,6 +89,18 @@ struct FontHandleTraits {
     static bool Close(Type handle) { return DeleteObject(handle) != FALSE; }
 };
 
+struct BrushHandleTraits {
+    using Type = HBRUSH;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DeleteObject(handle) != FALSE; }
+};
+
+struct RegionHandleTraits {
+    using Type = HRGN;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return DeleteObject(handle) != FALSE; }
+};
+
 struct IconHandleTraits {
     using Type = HICON;
     static Type None() { return nullptr; }
@@ -130,6 +142,8 @@ using UniqueSearch = UniqueHandle<SearchHandleTraits>;
 using UniqueWindow = UniqueHandle<WindowHandleTraits>;
 using UniqueMenu = UniqueHandle<MenuHandleTraits>;
 using UniqueFont = UniqueHandle<FontHandleTraits>;
+using UniqueBrush = UniqueHandle<BrushHandleTraits>;
+using UniqueRegion = UniqueHandle<RegionHandleTraits>;
 using UniqueIcon = UniqueHandle<IconHandleTraits>;
 using UniqueCursor = UniqueHandle<CursorHandleTraits>;
 using UniqueBitmap = UniqueHandle<BitmapHandleTraits>;

@@ -6,11 +6,13 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
-#include <memory>
 #include <string_view>
 
+#include "platform/nviewlib/win32/resources.h"
 #include "platform/win32/elevated_files.h"
 #include "platform/win32/program_start.h"
+#include "platform/win32/shell_item.h"
+#include "platform/win32/task_memory.h"
 #include "platform/win32/win32_file_error.h"
 #include "platform/win32/win32_path.h"
 #include "platform/win32/win32_text.h"
@@ -18,11 +20,7 @@
 namespace zentar {
 namespace {
 
-struct TaskMemoryFree {
-    void operator()(void* memory) const { CoTaskMemFree(memory); }
-};
-template <typename T>
-using TaskMemory = std::unique_ptr<T, TaskMemoryFree>;
+using nviewlib::Made;
 
 // The path of the running program, however long.
 std::wstring ProgramPath() {
@@ -48,20 +46,25 @@ std::wstring_view WithoutLastSeparator(std::wstring_view folder) {
 }
 
 // The shell's old call for this stops at 260 characters.
-std::optional<std::string> PathOf(PCIDLIST_ABSOLUTE picked) {
-    void* object = nullptr;
-    if (FAILED(SHCreateItemFromIDList(picked, IID_IShellItem, &object))) {
-        return std::nullopt;
-    }
-    auto* item = static_cast<IShellItem*>(object);
-    PWSTR name = nullptr;
-    const HRESULT named = item->GetDisplayName(SIGDN_FILESYSPATH, &name);
-    item->Release();
-    const TaskMemory<wchar_t> path(name);
-    if (FAILED(named)) {
-        return std::nullopt;
-    }
-    return Narrow(path.get());
+std::optional<std::string> PathOfPicked(PCIDLIST_ABSOLUTE picked) {
+    const auto item = Made<IShellItem>([picked](IShellItem** made) {
+        return SHCreateItemFromIDList(picked, IID_IShellItem, reinterpret_cast<void**>(made));
+    });
+    return item ? PathOf(*item) : std::nullopt;
+}
+
+// Has the system's program for it open something, and does not wait for that.
+Status OpenByAssociation(const std::wstring& what, const wchar_t* folder, Win32Session& session) {
+    session.ole.Need();
+    SHELLEXECUTEINFOW execute{};
+    execute.cbSize = sizeof execute;
+    execute.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
+    execute.hwnd = session.forms.DialogOwner();
+    execute.lpVerb = L"open";
+    execute.lpFile = what.c_str();
+    execute.lpDirectory = folder;
+    execute.nShow = SW_SHOWNORMAL;
+    return ShellExecuteExW(&execute) ? Status() : Status(LastFileError());
 }
 
 }  // namespace
@@ -100,7 +103,7 @@ std::optional<std::string> Win32Shell::PickFolder(const std::string& title) {
         BIF_RETURNONLYFSDIRS | BIF_DONTGOBELOWDOMAIN | BIF_NEWDIALOGSTYLE | BIF_EDITBOX;
     const OtherFormsDisabled others(session_.forms, browse.hwndOwner);
     const TaskMemory<ITEMIDLIST> picked(SHBrowseForFolderW(&browse));
-    return picked ? PathOf(picked.get()) : std::nullopt;
+    return picked ? PathOfPicked(picked.get()) : std::nullopt;
 }
 
 Status Win32Shell::StartProgram(const ProgramStart& start) {
@@ -112,15 +115,20 @@ Status Win32Shell::OpenAddress(const std::string& address) {
     if (!address.starts_with("http://") && !address.starts_with("https://")) {
         return FileError::BadName;
     }
-    const std::wstring wide = Widen(address);
-    SHELLEXECUTEINFOW execute{};
-    execute.cbSize = sizeof execute;
-    execute.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
-    execute.hwnd = session_.forms.DialogOwner();
-    execute.lpVerb = L"open";
-    execute.lpFile = wide.c_str();
-    execute.nShow = SW_SHOWNORMAL;
-    return ShellExecuteExW(&execute) ? Status() : Status(LastFileError());
+    return OpenByAssociation(Widen(address), nullptr, session_);
+}
+
+Status Win32Shell::OpenFile(const std::string& path, const std::string& folder) {
+    const std::optional<std::wstring> file = NativePath(path);
+    const std::optional<std::wstring> current = NativePath(folder);
+    if (!file || !current) {
+        return FileError::BadName;
+    }
+    // For a name that is missing the shell would go on to look for a program of that name.
+    if (GetFileAttributesW(file->c_str()) == INVALID_FILE_ATTRIBUTES) {
+        return LastFileError();
+    }
+    return OpenByAssociation(PlainPath(*file), PlainPath(*current).c_str(), session_);
 }
 
 Status Win32Shell::SetWallpaper(const std::string& path) {

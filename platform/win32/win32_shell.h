@@ -16,6 +16,7 @@ class Win32Shell : public Shell {
     std::optional<std::string> PickFolder(const std::string& title) override;
     Status StartProgram(const ProgramStart& start) override;
     Status OpenAddress(const std::string& address) override;
+    Status OpenFile(const std::string& path, const std::string& folder) override;
     Status SetWallpaper(const std::string& path) override;
     Status CopyElevated(const std::string& from, const std::string& to) override;
     Status DeleteElevated(const std::vector<std::string>& paths) override;

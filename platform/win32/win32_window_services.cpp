@@ -7,6 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/win32/clipboard.h"
+#include "platform/win32/file_dialog.h"
 #include "platform/win32/input_box.h"
 #include "platform/win32/pointer_refresh.h"
 #include "platform/win32/win32_text.h"
@@ -70,6 +72,22 @@ Answer Win32WindowServices::Ask(const Message& message) {
 
 std::optional<std::string> Win32WindowServices::AskText(const TextQuestion& question) {
     return ShowInputBox(question, session_);
+}
+
+std::optional<std::string> Win32WindowServices::ChooseFileToOpen(const FileQuestion& question) {
+    return ShowFileDialog(question, FilePurpose::Open, session_);
+}
+
+std::optional<std::string> Win32WindowServices::ChooseFileToSave(const FileQuestion& question) {
+    return ShowFileDialog(question, FilePurpose::Save, session_);
+}
+
+std::optional<ColourRef> Win32WindowServices::ChooseColour(ColourRef shown) {
+    return colourDialog_.Show(shown);
+}
+
+Status Win32WindowServices::PutOnClipboard(const std::string& text) {
+    return PutTextOnClipboard(text);
 }
 
 bool Win32WindowServices::HasWindowTitled(const std::string& title) {

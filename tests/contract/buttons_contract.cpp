@@ -17,7 +17,7 @@ TEST_P(ButtonsContract, ControlsBeginAsTheTableSays) {
     EXPECT_EQ(Main().GetTab(kTabs).SelectedTab(), 0);
     EXPECT_EQ(Main().GetListBox(kList).Background(), SystemColour::Window);
     EXPECT_EQ(Main().GetListBox(kGreyList).Background(), SystemColour::ButtonFace);
-    EXPECT_EQ(Main().GetTextBox(kOtherText).Background(), SystemColour::ButtonFace);
+    EXPECT_EQ(Main().GetTextBox(kOtherText).Background(), Colour(SystemColour::ButtonFace));
     EXPECT_FALSE(Main().GetTimer(kTimer).Enabled());
     EXPECT_FALSE(World().Shown(Main()));
 }

@@ -71,6 +71,9 @@ constexpr std::array kControls = {
     Row(kPageTwo, Kind::TabPage, kTabs, {}, "Two"),
     Row(kButtonTwo, Kind::Button, kPageTwo, {10, 10, 120, 24}, "Second"),
     TimerRow(kTimer, 20),
+    Row(kRich, Kind::RichTextBox, 0, {10, 300, 250, 90}, "", Heading),
+    Row(kReadOnlyText, Kind::TextBox, 0, {280, 300, 140, 22}, "read only", ReadOnly | Monospaced),
+    Row(kManyLines, Kind::TextBox, 0, {280, 330, 140, 60}, "", ManyLines),
 };
 
 constexpr std::array kMenus = {
@@ -103,7 +106,7 @@ constexpr std::array kFullControls = {FullPictureRow()};
 
 const FormTable& ContractMainTable() {
     static const FormTable table{kMainForm,  FormKind::Main, "Contract window",
-                                 {600, 300}, kControls,      kMenus};
+                                 {600, 400}, kControls,      kMenus};
     return table;
 }
 

@@ -40,6 +40,10 @@ class ControlsWorld {
     virtual void PressMouse(Form& form, int id, MouseButton button, Point at) = 0;
     virtual void DragMouse(Form& form, int id, Point to) = 0;
     virtual void ReleaseMouse(Form& form, int id) = 0;
+    // In a box of rich text. Places are in UTF-16 units.
+    virtual void SelectText(Form& form, int rich, int from, int to) = 0;
+    virtual void Paste(Form& form, int rich, const std::vector<ColouredRun>& runs) = 0;
+    virtual void Undo(Form& form, int rich) = 0;
     // In the next popup menu, goes down so many lines and picks that one, `id`; or none.
     virtual void PickFromPopup(Form& form, int downs, int id) = 0;
     virtual void DismissPopup(Form& form) = 0;
@@ -52,6 +56,8 @@ class ControlsWorld {
     virtual bool Shown(Form& form) = 0;
     // Whether a picture has lost its colours.
     virtual bool ShownGrey(Form& form, int picture) = 0;
+    // Whether something of a text box has exactly that colour.
+    virtual bool Shows(Form& form, int textBox, ColourRef colour) = 0;
     // What the mouse finds out about the control.
     virtual std::string Tooltip(Form& form, int id) = 0;
     // The control's upper edge in its parent, in twips.
@@ -93,6 +99,9 @@ enum ContractId {
     kImage,  // on kPageOne
     kButtonTwo,
     kTimer,
+    kRich,
+    kReadOnlyText,
+    kManyLines,
     kMenuFile,
     kMenuOpen,
     kMenuMore,
@@ -145,5 +154,7 @@ using FocusContract = ControlsContract;
 using FormContract = ControlsContract;
 using LooksContract = ControlsContract;
 using ImageControlsContract = ControlsContract;
+using TextColourContract = ControlsContract;
+using RichTextContract = ControlsContract;
 
 }  // namespace zentar

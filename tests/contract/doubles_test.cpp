@@ -220,11 +220,62 @@ TEST(ScriptedWindows, AnInputBoxThatIsNotAsExpectedFailsTheTest) {
     EXPECT_TRUE(meanwhile);
     EXPECT_EQ(windows.AskText(expected), std::nullopt);
     windows.ExpectText(expected, "final");
-    EXPECT_NONFATAL_FAILURE(windows.AskText(other), "the input box");
+    EXPECT_NONFATAL_FAILURE(windows.AskText(other), "the text question");
     EXPECT_NONFATAL_FAILURE(windows.AskText(expected), "nobody expected");
     windows.ExpectText(expected, "final");
     EXPECT_NONFATAL_FAILURE(windows.Verify(), "never came");
     EXPECT_EQ(log.Count("AskText Rename Demo"), 4U);
+}
+
+TEST(ScriptedWindows, AFileDialogThatIsNotAsExpectedFailsTheTest) {
+    const FileQuestion expected{"Open", "C:\\Zentar\\data", "", {{"Texts (*.txt)", "*.txt"}}};
+    FileQuestion other = expected;
+    other.kinds[0].patterns = "*.text";
+    EventLog log;
+    ScriptedWindows windows(&log);
+    bool meanwhile = false;
+    windows.ExpectFileToOpen(expected, "C:\\a.txt", [&] { meanwhile = true; });
+    windows.ExpectFileToOpen(expected, std::nullopt);
+    windows.ExpectFileToSave(expected, "C:\\b.txt");
+    EXPECT_EQ(windows.ChooseFileToSave(expected), "C:\\b.txt");
+    EXPECT_FALSE(meanwhile);
+    EXPECT_EQ(windows.ChooseFileToOpen(expected), "C:\\a.txt");
+    EXPECT_TRUE(meanwhile);
+    EXPECT_EQ(windows.ChooseFileToOpen(expected), std::nullopt);
+    windows.ExpectFileToOpen(expected, "C:\\a.txt");
+    EXPECT_NONFATAL_FAILURE(windows.ChooseFileToOpen(other), "[*.text]");
+    EXPECT_NONFATAL_FAILURE(windows.ChooseFileToOpen(expected), "nobody expected");
+    EXPECT_NONFATAL_FAILURE(windows.ChooseFileToSave(expected), "nobody expected");
+    windows.ExpectFileToOpen(expected, "C:\\a.txt");
+    EXPECT_NONFATAL_FAILURE(windows.Verify(), "file to open that never came");
+    windows.ExpectFileToSave(expected, "C:\\a.txt");
+    EXPECT_NONFATAL_FAILURE(windows.Verify(), "file to save that never came");
+    EXPECT_EQ(log.Count("ChooseFileToOpen Open"), 4U);
+    EXPECT_EQ(log.Count("ChooseFileToSave Open"), 2U);
+}
+
+TEST(ScriptedWindows, AColourDialogThatIsNotAsExpectedFailsTheTest) {
+    ScriptedWindows windows;
+    windows.ExpectColour(0x0000FF, 0x00FF00);
+    windows.ExpectColour(0x0000FF, std::nullopt);
+    EXPECT_EQ(windows.ChooseColour(0x0000FF), 0x00FF00U);
+    EXPECT_EQ(windows.ChooseColour(0x0000FF), std::nullopt);
+    windows.ExpectColour(0x0000FF, 0x00FF00);
+    EXPECT_NONFATAL_FAILURE(windows.ChooseColour(0xFF0000), "0x00FF0000");
+    EXPECT_NONFATAL_FAILURE(windows.ChooseColour(0xFF0000), "nobody expected");
+    windows.ExpectColour(0x0000FF, 0x00FF00);
+    EXPECT_NONFATAL_FAILURE(windows.Verify(), "never came");
+}
+
+TEST(ScriptedWindows, AClipboardThatFailsKeepsWhatItHeld) {
+    EventLog log;
+    ScriptedWindows windows(&log);
+    EXPECT_TRUE(Succeeded(windows.PutOnClipboard("bind pause")));
+    EXPECT_EQ(windows.clipboard, "bind pause");
+    windows.clipboardAnswer = FileError::InUse;
+    EXPECT_TRUE(FailedWith(windows.PutOnClipboard("name"), FileError::InUse));
+    EXPECT_EQ(windows.clipboard, "bind pause");
+    EXPECT_TRUE(log.Ordered({"PutOnClipboard bind pause", "PutOnClipboard name"}));
 }
 
 TEST(ScriptedWindows, AWindowIsKnownByItsWholeTitle) {
@@ -268,6 +319,10 @@ TEST(ScriptedShell, AProgramThatIsNotAsExpectedFailsTheTest) {
     EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.StartProgram(other)), "[ +map b]");
     EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.StartProgram(other)), "nobody expected");
     shell.ExpectStart(expected);
+    other = expected;
+    other.window = StartWindow::Maximised;
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.StartProgram(other)), "maximised");
+    shell.ExpectStart(expected);
     EXPECT_NONFATAL_FAILURE(shell.Verify(), "never came");
     EXPECT_TRUE(log.Has("StartProgram C:\\Quake2\\quake2.exe +map a"));
 }
@@ -286,6 +341,23 @@ TEST(ScriptedShell, AnAddressThatIsNotAsExpectedFailsTheTest) {
     shell.ExpectOpen("https://a.example/");
     EXPECT_NONFATAL_FAILURE(shell.Verify(), "never opened");
     EXPECT_TRUE(log.Has("OpenAddress https://a.example/"));
+}
+
+TEST(ScriptedShell, AFileOpenedThatIsNotAsExpectedFailsTheTest) {
+    EventLog log;
+    ScriptedShell shell(&log);
+    shell.ExpectOpenFile("C:\\out\\a.htm", "C:\\Zentar");
+    shell.ExpectOpenFile("C:\\out\\b.htm", "C:\\Zentar", FileError::NotFound);
+    EXPECT_TRUE(Succeeded(shell.OpenFile("C:\\out\\a.htm", "C:\\Zentar")));
+    EXPECT_TRUE(FailedWith(shell.OpenFile("C:\\out\\b.htm", "C:\\Zentar"), FileError::NotFound));
+    shell.ExpectOpenFile("C:\\out\\a.htm", "C:\\Zentar");
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.OpenFile("C:\\out\\a.htm", "C:\\out")),
+                            "in [C:\\\\out]");
+    EXPECT_NONFATAL_FAILURE(IgnoreFailure(shell.OpenFile("C:\\out\\a.htm", "C:\\Zentar")),
+                            "nobody expected");
+    shell.ExpectOpenFile("C:\\out\\a.htm", "C:\\Zentar");
+    EXPECT_NONFATAL_FAILURE(shell.Verify(), "never opened");
+    EXPECT_TRUE(log.Has("OpenFile C:\\out\\a.htm"));
 }
 
 TEST(EventLog, StepsOutOfTheirOrderAreTold) {

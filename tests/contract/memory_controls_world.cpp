@@ -66,6 +66,14 @@ class MemoryControlsWorld : public ControlsWorld {
     }
     void ReleaseMouse(Form& form, int id) override { InMemory(form).UserMouseOn(id).Release(); }
 
+    void SelectText(Form& form, int rich, int from, int to) override {
+        InMemory(form).UserIn(rich).Select(from, to);
+    }
+    void Paste(Form& form, int rich, const std::vector<ColouredRun>& runs) override {
+        InMemory(form).UserIn(rich).Paste(runs);
+    }
+    void Undo(Form& form, int rich) override { InMemory(form).UserIn(rich).Undo(); }
+
     void PickFromPopup(Form& form, int /*downs*/, int id) override {
         InMemory(form).SetPopupUser([&form, id](int) { InMemory(form).UserPickMenu(id); });
     }
@@ -79,6 +87,9 @@ class MemoryControlsWorld : public ControlsWorld {
     bool Shown(Form& form) override { return InMemory(form).Shown(); }
     bool ShownGrey(Form& form, int picture) override {
         return !InMemory(form).EffectivelyEnabled(picture);
+    }
+    bool Shows(Form& form, int textBox, ColourRef colour) override {
+        return InMemory(form).Shows(textBox, colour);
     }
     std::string Tooltip(Form& form, int id) override { return InMemory(form).Tooltip(id); }
     int TopTwips(Form& form, int id) override { return InMemory(form).TopTwips(id); }
@@ -106,6 +117,8 @@ INSTANTIATE_TEST_SUITE_P(Memory, FocusContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FormContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, LooksContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, ImageControlsContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, TextColourContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, RichTextContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FullScreenContract, kMemory);
 
 }  // namespace zentar

@@ -273,7 +273,7 @@ TEST_P(TextAndListContract, BackgroundsAreAsTheProgramSetsThem) {
     EXPECT_EQ(list.Background(), SystemColour::Window);
     TextBox& text = Main().GetTextBox(kOtherText);
     text.SetBackground(SystemColour::Window);
-    EXPECT_EQ(text.Background(), SystemColour::Window);
+    EXPECT_EQ(text.Background(), Colour(SystemColour::Window));
 }
 
 }  // namespace zentar

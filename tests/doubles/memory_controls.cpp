@@ -1,5 +1,9 @@
 #include "tests/doubles/memory_controls.h"
 
+#include <array>
+#include <cstdio>
+
+#include "tests/doubles/memory_rich_text.h"
 #include "tests/doubles/mistake.h"
 
 namespace zentar {
@@ -19,10 +23,6 @@ std::string Call(const char* name, int value) {
     return std::string(name) + "(" + std::to_string(value) + ")";
 }
 
-std::string Call(const char* name, SystemColour colour) {
-    return std::string(name) + (colour == SystemColour::Window ? "(Window)" : "(ButtonFace)");
-}
-
 MemoryTab& TabAbove(ControlCore* parent) {
     auto* tab = dynamic_cast<MemoryTab*>(parent);
     if (tab == nullptr)
@@ -30,7 +30,30 @@ MemoryTab& TabAbove(ControlCore* parent) {
     return *tab;
 }
 
+std::string NameOf(SystemColour colour) {
+    switch (colour) {
+        case SystemColour::Window:
+            return "Window";
+        case SystemColour::WindowText:
+            return "WindowText";
+        case SystemColour::ButtonFace:
+            break;
+    }
+    return "ButtonFace";
+}
+
+std::string NameOf(ColourRef colour) {
+    std::array<char, 9> text{};
+    std::snprintf(text.data(), text.size(), "0x%06x", static_cast<unsigned>(colour));
+    return text.data();
+}
+
 }  // namespace
+
+std::string CallWith(const char* name, Colour colour) {
+    return std::string(name) + "(" + std::visit([](auto which) { return NameOf(which); }, colour) +
+           ")";
+}
 
 MemoryCheckBox::MemoryCheckBox(ControlHost& host, const ControlRow& row, ControlCore* parent)
     : MemoryControl(host, row, parent), checked_(StartsWith(row, StartsChecked)) {}
@@ -102,10 +125,11 @@ bool MemoryOptionButton::IsTabStop() const {
 }
 
 MemoryTextBox::MemoryTextBox(ControlHost& host, const ControlRow& row, ControlCore* parent)
-    : MemoryControl(host, row, parent), background_(FirstBackground(row)) {}
+    : MemoryControl(host, row, parent), background_(FirstBackground(row)), caret_(text_.size()) {}
 
 void MemoryTextBox::SetText(const std::string& text) {
     Log("SetText(" + text + ")");
+    caret_ = text.size();
     Change(text);
 }
 
@@ -122,22 +146,58 @@ void MemoryTextBox::SelectAll() {
     allSelected_ = true;
 }
 
-void MemoryTextBox::SetBackground(SystemColour colour) {
-    Log(Call("SetBackground", colour));
+void MemoryTextBox::PutCaretFirst() {
+    Log("PutCaretFirst()");
+    allSelected_ = false;
+    caret_ = 0;
+}
+
+void MemoryTextBox::SetForeground(Colour colour) {
+    Log(CallWith("SetForeground", colour));
+    foreground_ = colour;
+}
+
+void MemoryTextBox::SetBackground(Colour colour) {
+    Log(CallWith("SetBackground", colour));
     background_ = colour;
 }
 
-void MemoryTextBox::TypeCharacter(const std::string& character) {
-    Change(allSelected_ ? character : text_ + character);
+bool MemoryTextBox::Shows(ColourRef colour) const {
+    const bool text = EffectivelyEnabled() && !text_.empty();
+    return background_ == Colour(colour) || (text && foreground_ == Colour(colour));
 }
 
-void MemoryTextBox::EraseCharacter() {
-    std::string text = allSelected_ ? std::string() : text_;
-    while (!text.empty() && (text.back() & 0xC0) == 0x80)
-        text.pop_back();  // UTF-8's later bytes
-    if (!text.empty())
-        text.pop_back();
+void MemoryTextBox::TypeCharacter(const std::string& character) {
+    if (ReadOnlyBox())
+        return;
+    std::string text = text_;
+    if (allSelected_) {
+        text.clear();
+        caret_ = 0;
+    }
+    text.insert(caret_, character);
+    caret_ += character.size();
     Change(text);
+}
+
+void MemoryTextBox::Erase(Key key) {
+    if (ReadOnlyBox())
+        return;
+    const auto laterByte = [this](std::size_t at) { return (text_[at] & 0xC0) == 0x80; };
+    std::size_t first = allSelected_ ? 0 : caret_;
+    std::size_t last = allSelected_ ? text_.size() : caret_;
+    if (first == last && key == Key::Backspace && first > 0) {
+        do {
+            --first;
+        } while (first > 0 && laterByte(first));
+    }
+    if (first == last && key == Key::Delete && last < text_.size()) {
+        do {
+            ++last;
+        } while (last < text_.size() && laterByte(last));
+    }
+    caret_ = first;
+    Change(text_.substr(0, first) + text_.substr(last));
 }
 
 MemoryListBox::MemoryListBox(ControlHost& host, const ControlRow& row, ControlCore* parent)
@@ -184,7 +244,7 @@ void MemoryListBox::SelectAtPointer() {
 }
 
 void MemoryListBox::SetBackground(SystemColour colour) {
-    Log(Call("SetBackground", colour));
+    Log(CallWith("SetBackground", colour));
     background_ = colour;
 }
 
@@ -216,6 +276,7 @@ std::unique_ptr<ControlCore> MakeMemoryControl(ControlHost& host, const ControlR
         case ControlKind::Label:
             return std::make_unique<MemoryLabel>(host, row, parent);
         case ControlKind::Button:
+        case ControlKind::ColourButton:
             return std::make_unique<MemoryButton>(host, row, parent);
         case ControlKind::CheckBox:
             return std::make_unique<MemoryCheckBox>(host, row, parent);
@@ -223,6 +284,8 @@ std::unique_ptr<ControlCore> MakeMemoryControl(ControlHost& host, const ControlR
             return std::make_unique<MemoryOptionButton>(host, row, parent);
         case ControlKind::TextBox:
             return std::make_unique<MemoryTextBox>(host, row, parent);
+        case ControlKind::RichTextBox:
+            return std::make_unique<MemoryRichTextBox>(host, row, parent);
         case ControlKind::ListBox:
             return std::make_unique<MemoryListBox>(host, row, parent);
         case ControlKind::Frame:

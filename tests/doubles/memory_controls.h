@@ -1,6 +1,7 @@
 // The controls of a window in memory: the same events under the same conditions as the real ones.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -12,6 +13,9 @@
 namespace zentar {
 
 class ControlCore;
+
+// How a call reads in the log: "SetBackground(Window)", "SetBackground(0x006cd8)".
+std::string CallWith(const char* name, Colour colour);
 
 // What a control needs of its window.
 class ControlHost {
@@ -37,6 +41,8 @@ class ControlCore {
     virtual Control& AsControl() = 0;
     // What a left click does to the control, beyond giving it the focus.
     virtual void Clicked() {}
+    // Whether it shows a colour that the program gave to it.
+    virtual bool Shows(ColourRef /*colour*/) const { return false; }
     // Takes the other buttons' selection away, without an event.
     virtual void ClearSelection() {}
 
@@ -184,18 +190,26 @@ class MemoryTextBox : public MemoryControl<TextBox> {
     MemoryTextBox(ControlHost& host, const ControlRow& row, ControlCore* parent);
     void SetText(const std::string& text) override;
     void SelectAll() override;
-    void SetBackground(SystemColour colour) override;
-    SystemColour Background() const override { return background_; }
+    void PutCaretFirst() override;
+    void SetForeground(Colour colour) override;
+    Colour Foreground() const override { return foreground_; }
+    void SetBackground(Colour colour) override;
+    Colour Background() const override { return background_; }
+    bool Shows(ColourRef colour) const override;
 
     bool AllSelected() const { return allSelected_; }
-    // What the user's keys do at the end of the text, or to the whole of it when it is selected.
+    // What the user's keys do at the end of the text, or where the program put the caret, or to the
+    // whole text when it is selected. A box that is read-only does nothing.
     void TypeCharacter(const std::string& character);
-    void EraseCharacter();
+    void Erase(Key key);
 
   private:
+    bool ReadOnlyBox() const { return (row_.flags & ReadOnly) != 0; }
     void Change(const std::string& text);
-    SystemColour background_;
+    Colour foreground_ = SystemColour::WindowText;
+    Colour background_;
     bool allSelected_ = false;
+    std::size_t caret_ = 0;
 };
 
 class MemoryListBox : public MemoryControl<ListBox> {

@@ -5,6 +5,13 @@
 #include <gtest/gtest.h>
 
 namespace zentar {
+namespace {
+
+bool TakesText(ControlKind kind) {
+    return kind == ControlKind::TextBox || kind == ControlKind::RichTextBox;
+}
+
+}  // namespace
 
 MemoryForm::MemoryForm(const FormTable& table, std::shared_ptr<FormSession> session)
     : table_(table), session_(std::move(session)) {
@@ -200,9 +207,8 @@ void MemoryForm::MoveFocus(ControlCore* to) {
     focused_ = to;
     if (!shown_)
         return;
-    if (auto* textBox = dynamic_cast<MemoryTextBox*>(to)) {
-        textBox->Raise("gotFocus", &ControlEvents::gotFocus);
-    }
+    if (to != nullptr && TakesText(to->Row().kind))
+        to->Raise("gotFocus", &ControlEvents::gotFocus);
 }
 
 void MemoryForm::LeaveFocus(const ControlCore& going) {

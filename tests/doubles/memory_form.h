@@ -16,6 +16,7 @@
 #include "tests/doubles/event_log.h"
 #include "tests/doubles/memory_controls.h"
 #include "tests/doubles/memory_menus.h"
+#include "tests/doubles/memory_rich_text.h"
 #include "tests/doubles/mistake.h"
 #include "tests/doubles/procedure_stack.h"
 
@@ -66,6 +67,7 @@ class MemoryForm : public Form, private ControlHost {
     CheckBox& GetCheckBox(int id) override { return Get<MemoryCheckBox>(id); }
     OptionButton& GetOptionButton(int id) override { return Get<MemoryOptionButton>(id); }
     TextBox& GetTextBox(int id) override { return Get<MemoryTextBox>(id); }
+    RichTextBox& GetRichTextBox(int id) override { return Get<MemoryRichTextBox>(id); }
     ListBox& GetListBox(int id) override { return Get<MemoryListBox>(id); }
     TabControl& GetTab(int id) override { return Get<MemoryTab>(id); }
     Timer& GetTimer(int id) override { return TimerOf(id); }
@@ -82,7 +84,10 @@ class MemoryForm : public Form, private ControlHost {
     void UserRightClick(int imageBox);
     // What the user's mouse does is the box's own.
     MemoryPictureBox& UserMouseOn(int pictureBox);
-    void UserDoubleClick(int pictureBox);
+    // On a text box or a picture box.
+    void UserDoubleClick(int id);
+    // Likewise what the user does in a box of rich text, which gets the focus.
+    MemoryRichTextBox& UserIn(int richTextBox);
     void UserSelectTab(int tab, int index);
     void UserType(std::string_view text);
     // To the focused control, then to the window; an unused Enter presses a button.
@@ -109,6 +114,8 @@ class MemoryForm : public Form, private ControlHost {
     // window.
     bool CanReach(int id) const { return Obstacle(id).empty(); }
     int TopTwips(int id) { return Core(id).TopTwips(); }
+    // Whether a character or the background of a text box has that colour.
+    bool Shows(int textBox, ColourRef colour) { return Core(textBox).Shows(colour); }
     bool AllSelected(int textBox) { return Get<MemoryTextBox>(textBox).AllSelected(); }
     std::vector<std::string> Items(int list) { return Get<MemoryListBox>(list).Items(); }
     std::string SelectedItem(int list);

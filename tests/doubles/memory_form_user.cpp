@@ -98,8 +98,14 @@ MemoryPictureBox& MemoryForm::UserMouseOn(int pictureBox) {
     return Get<MemoryPictureBox>(pictureBox);
 }
 
-void MemoryForm::UserDoubleClick(int pictureBox) {
-    UserMouseOn(pictureBox).Raise("doubleClick", &ControlEvents::doubleClick);
+void MemoryForm::UserDoubleClick(int id) {
+    if (ControlCore* control = Reach(id, "UserDoubleClick"))
+        control->Raise("doubleClick", &ControlEvents::doubleClick);
+}
+
+MemoryRichTextBox& MemoryForm::UserIn(int richTextBox) {
+    Reach(richTextBox, "UserIn");
+    return Get<MemoryRichTextBox>(richTextBox);
 }
 
 void MemoryForm::UserSelectTab(int tab, int index) {
@@ -112,15 +118,18 @@ void MemoryForm::UserType(std::string_view text) {
     if (!TakesInput("UserType"))
         return;
     for (std::size_t at = 0; at < text.size();) {
-        auto* box = dynamic_cast<MemoryTextBox*>(focused_);
-        if (box == nullptr) {
-            ADD_FAILURE() << "UserType: no text box has the focus";
-            return;
-        }
         std::size_t end = at + 1;
         while (end < text.size() && (text[end] & 0xC0) == 0x80)
             ++end;  // UTF-8's later bytes
-        box->TypeCharacter(std::string(text.substr(at, end - at)));
+        const std::string character(text.substr(at, end - at));
+        if (auto* box = dynamic_cast<MemoryTextBox*>(focused_)) {
+            box->TypeCharacter(character);
+        } else if (auto* richBox = dynamic_cast<MemoryRichTextBox*>(focused_)) {
+            richBox->TypeCharacter(character);
+        } else {
+            ADD_FAILURE() << "UserType: no text box has the focus";
+            return;
+        }
         at = end;
     }
 }
@@ -139,8 +148,8 @@ void MemoryForm::UserKey(Key key) {
     const auto isKind = [this](ControlKind kind) {
         return focused_ != nullptr && focused_->Row().kind == kind;
     };
-    const bool raisesKeys = isKind(ControlKind::TextBox) || isKind(ControlKind::ListBox) ||
-                            isKind(ControlKind::PictureBox);
+    const bool raisesKeys = isKind(ControlKind::TextBox) || isKind(ControlKind::RichTextBox) ||
+                            isKind(ControlKind::ListBox) || isKind(ControlKind::PictureBox);
     if (raisesKeys && Uses(focused_->Events().keyDown, key))
         return;
     if (Uses(events_.keyDown, key))
@@ -150,12 +159,11 @@ void MemoryForm::UserKey(Key key) {
 
 // What the controls themselves make of a key that no event procedure wanted.
 void MemoryForm::UnusedKey(Key key) {
-    auto* textBox = dynamic_cast<MemoryTextBox*>(focused_);
-    if (textBox != nullptr && key == Key::Backspace)
-        textBox->EraseCharacter();
-    // The caret stands at the end, where Delete has nothing to erase but a selection.
-    if (textBox != nullptr && key == Key::Delete && textBox->AllSelected()) {
-        textBox->EraseCharacter();
+    if (key == Key::Backspace || key == Key::Delete) {
+        if (auto* box = dynamic_cast<MemoryTextBox*>(focused_))
+            box->Erase(key);
+        if (auto* richBox = dynamic_cast<MemoryRichTextBox*>(focused_))
+            richBox->Erase(key);
     }
     if (key != Key::Enter)
         return;

@@ -7,22 +7,13 @@
 namespace zentar {
 namespace {
 
-std::string Describe(const Message& message) {
-    constexpr std::array<const char*, 4> kIcons = {"information", "exclamation", "question",
-                                                   "critical"};
-    std::string text = "[" + message.title + "] (";
-    text += kIcons[static_cast<std::size_t>(message.icon)];
-    text += message.buttons == MessageButtons::Ok ? " icon, OK" : " icon, Yes/No";
-    text += message.defaultButton == DefaultButton::First ? ", first" : ", second";
-    return text + " button is the default)\n" + message.text;
-}
-
-std::string Describe(const TextQuestion& question) {
-    return "[" + question.title + "] (offers \"" + question.answer + "\")\n" + question.prompt;
-}
-
 std::string Describe(const ProgramStart& start) {
-    return "[" + start.folder + "] [" + start.executable + "] [" + start.arguments + "]";
+    return "[" + start.folder + "] [" + start.executable + "] [" + start.arguments + "] " +
+           (start.window == StartWindow::Minimised ? "minimised" : "maximised");
+}
+
+std::string DescribeFile(const std::string& path, const std::string& folder) {
+    return "[" + path + "] in [" + folder + "]";
 }
 
 using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
@@ -73,6 +64,19 @@ Status ScriptedShell::OpenAddress(const std::string& address) {
     return expected.result;
 }
 
+Status ScriptedShell::OpenFile(const std::string& path, const std::string& folder) {
+    Log("OpenFile " + path);
+    if (files_.empty()) {
+        ADD_FAILURE() << "A file opened that nobody expected: " << DescribeFile(path, folder);
+        return FileError::NotFound;
+    }
+    const ExpectedFile expected = files_.front();
+    files_.pop_front();
+    EXPECT_EQ(DescribeFile(path, folder), DescribeFile(expected.path, expected.folder))
+        << "the file to be opened";
+    return expected.result;
+}
+
 Status ScriptedShell::SetWallpaper(const std::string& path) {
     Log("SetWallpaper " + path);
     if (wallpaperAnswer.Ok())
@@ -98,6 +102,11 @@ void ScriptedShell::ExpectOpen(const std::string& address, Status result) {
     opens_.push_back({address, result});
 }
 
+void ScriptedShell::ExpectOpenFile(const std::string& path, const std::string& folder,
+                                   Status result) {
+    files_.push_back({path, folder, result});
+}
+
 void ScriptedShell::Verify() {
     for (const ExpectedPick& pick : picks_) {
         ADD_FAILURE() << "A folder dialog that never came: " << pick.title;
@@ -108,9 +117,13 @@ void ScriptedShell::Verify() {
     for (const ExpectedOpen& open : opens_) {
         ADD_FAILURE() << "An address that was never opened: " << open.address;
     }
+    for (const ExpectedFile& file : files_) {
+        ADD_FAILURE() << "A file that was never opened: " << DescribeFile(file.path, file.folder);
+    }
     picks_.clear();
     starts_.clear();
     opens_.clear();
+    files_.clear();
 }
 
 void ScriptedShell::Log(const std::string& entry) {
@@ -118,36 +131,11 @@ void ScriptedShell::Log(const std::string& entry) {
         log_->Add(entry);
 }
 
-Answer ScriptedWindows::Ask(const Message& message) {
-    Log("Ask " + message.title);
-    shown_.push_back(message);
-    if (boxes_.empty()) {
-        ADD_FAILURE() << "A message box that nobody expected: " << Describe(message);
-        return message.buttons == MessageButtons::Ok ? Answer::Ok : Answer::No;
-    }
-    const ExpectedBox expected = boxes_.front();
-    boxes_.pop_front();
-    EXPECT_EQ(Describe(message), Describe(expected.message)) << "the message box";
-    const bool possible =
-        (message.buttons == MessageButtons::Ok) == (expected.answer == Answer::Ok);
-    EXPECT_TRUE(possible) << "The box has no such button: " << Describe(message);
-    if (expected.meanwhile)
-        expected.meanwhile();
-    return expected.answer;
-}
-
-std::optional<std::string> ScriptedWindows::AskText(const TextQuestion& question) {
-    Log("AskText " + question.title);
-    if (textBoxes_.empty()) {
-        ADD_FAILURE() << "An input box that nobody expected: " << Describe(question);
-        return std::nullopt;
-    }
-    const ExpectedTextBox expected = textBoxes_.front();
-    textBoxes_.pop_front();
-    EXPECT_EQ(Describe(question), Describe(expected.question)) << "the input box";
-    if (expected.meanwhile)
-        expected.meanwhile();
-    return expected.answer;
+Status ScriptedWindows::PutOnClipboard(const std::string& text) {
+    Log("PutOnClipboard " + text);
+    if (clipboardAnswer.Ok())
+        clipboard = text;
+    return clipboardAnswer;
 }
 
 bool ScriptedWindows::HasWindowTitled(const std::string& title) { return titles_.contains(title); }
@@ -184,32 +172,6 @@ void ScriptedWindows::SetDown(PollKey key, bool down) {
         down_.insert(key);
     else
         down_.erase(key);
-}
-
-void ScriptedWindows::Expect(const Message& message, Answer answer,
-                             std::function<void()> meanwhile) {
-    boxes_.push_back({message, answer, std::move(meanwhile)});
-}
-
-void ScriptedWindows::ExpectText(const TextQuestion& question, std::optional<std::string> answer,
-                                 std::function<void()> meanwhile) {
-    textBoxes_.push_back({question, std::move(answer), std::move(meanwhile)});
-}
-
-void ScriptedWindows::Verify() {
-    for (const ExpectedBox& box : boxes_) {
-        ADD_FAILURE() << "A message box that never came: " << Describe(box.message);
-    }
-    for (const ExpectedTextBox& box : textBoxes_) {
-        ADD_FAILURE() << "An input box that never came: " << Describe(box.question);
-    }
-    boxes_.clear();
-    textBoxes_.clear();
-}
-
-void ScriptedWindows::Log(const std::string& entry) {
-    if (log_ != nullptr)
-        log_->Add(entry);
 }
 
 FileTime MakeFileTime(int year, int month, int day, int hour, int minute, int second) {

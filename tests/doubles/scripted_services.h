@@ -1,7 +1,7 @@
 // The shell, the windowing system and the locale, as a test wrote their part.
 //
-// A dialog, or the start of a program, that the test does not expect fails it, and so does one that
-// it expected and that never came.
+// A folder dialog, the start of a program or the opening of something, that the test does not
+// expect fails it, and so does one that it expected and that never came.
 #pragma once
 
 #include <deque>
@@ -16,6 +16,7 @@
 #include "platform/shell.h"
 #include "platform/window_services.h"
 #include "tests/doubles/event_log.h"
+#include "tests/doubles/scripted_dialogs.h"
 
 namespace zentar {
 
@@ -31,6 +32,7 @@ class ScriptedShell : public Shell {
     std::optional<std::string> PickFolder(const std::string& title) override;
     Status StartProgram(const ProgramStart& start) override;
     Status OpenAddress(const std::string& address) override;
+    Status OpenFile(const std::string& path, const std::string& folder) override;
     std::string TemporaryFolder() override { return temporaryFolder; }
     Status SetWallpaper(const std::string& path) override;
     Status CopyElevated(const std::string& from, const std::string& to) override;
@@ -42,6 +44,8 @@ class ScriptedShell : public Shell {
     void ExpectStart(const ProgramStart& start, Status result = {});
     // The next address to be opened is this one, and so it ends.
     void ExpectOpen(const std::string& address, Status result = {});
+    // The next file to be opened is this one, with that folder as the current one; and so it ends.
+    void ExpectOpenFile(const std::string& path, const std::string& folder, Status result = {});
     // Fails the test when something expected has not come; then expects nothing.
     void Verify();
 
@@ -70,24 +74,26 @@ class ScriptedShell : public Shell {
         std::string address;
         Status result;
     };
+    struct ExpectedFile {
+        std::string path;
+        std::string folder;
+        Status result;
+    };
     void Log(const std::string& entry);
 
     EventLog* log_;
     std::deque<ExpectedPick> picks_;
     std::deque<ExpectedStart> starts_;
     std::deque<ExpectedOpen> opens_;
+    std::deque<ExpectedFile> files_;
     std::vector<ProgramStart> started_;
 };
 
-class ScriptedWindows : public WindowServices {
+class ScriptedWindows : public ScriptedDialogs {
   public:
-    explicit ScriptedWindows(EventLog* log = nullptr) : log_(log) {}
-    ~ScriptedWindows() override { Verify(); }
-    ScriptedWindows(const ScriptedWindows&) = delete;
-    ScriptedWindows& operator=(const ScriptedWindows&) = delete;
+    explicit ScriptedWindows(EventLog* log = nullptr) : ScriptedDialogs(log) {}
 
-    Answer Ask(const Message& message) override;
-    std::optional<std::string> AskText(const TextQuestion& question) override;
+    Status PutOnClipboard(const std::string& text) override;
     bool HasWindowTitled(const std::string& title) override;
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
@@ -95,15 +101,6 @@ class ScriptedWindows : public WindowServices {
     bool IsDown(PollKey key) override { return down_.contains(key); }
     void PumpPending() override;
     void Sleep(int milliseconds) override;
-
-    // The next box is this one, whole, and the user answers so. `meanwhile` runs while it is open.
-    void Expect(const Message& message, Answer answer, std::function<void()> meanwhile = {});
-    void Expect(const Message& message) { Expect(message, Answer::Ok); }
-    // The next input box is this one, whole; the user answers so, or cancels.
-    void ExpectText(const TextQuestion& question, std::optional<std::string> answer,
-                    std::function<void()> meanwhile = {});
-    // Fails the test when an expected box has not come; then expects none.
-    void Verify();
 
     // 0x8000: the key is down; 0x0001: it was pressed since the last query.
     void SetKeyState(PollKey key, std::uint16_t state) { keys_[key] = state; }
@@ -120,27 +117,13 @@ class ScriptedWindows : public WindowServices {
     Pointer CurrentPointer() const { return pointer_; }
     const std::vector<Pointer>& Pointers() const { return pointers_; }
     const std::vector<Beep>& Sounds() const { return sounds_; }
-    const std::vector<Message>& Shown() const { return shown_; }
     int Pumps() const { return pumps_; }
 
-  private:
-    struct ExpectedBox {
-        Message message;
-        Answer answer = Answer::Ok;
-        std::function<void()> meanwhile;
-    };
-    struct ExpectedTextBox {
-        TextQuestion question;
-        std::optional<std::string> answer;
-        std::function<void()> meanwhile;
-    };
-    void Log(const std::string& entry);
+    std::string clipboard;     // what the user would paste
+    Status clipboardAnswer{};  // so the next calls end
 
-    EventLog* log_;
-    std::deque<ExpectedBox> boxes_;
-    std::deque<ExpectedTextBox> textBoxes_;
+  private:
     std::set<std::string> titles_;
-    std::vector<Message> shown_;
     std::vector<Beep> sounds_;
     std::vector<Pointer> pointers_;
     Pointer pointer_ = Pointer::Default;

@@ -1,4 +1,5 @@
-// A program that stands in for the user's web browser and notes what it is asked to open.
+// A program that stands in for the user's web browser, or for what shows pages of HTML, and notes
+// what it is asked to open.
 #pragma once
 
 #include <filesystem>
@@ -9,18 +10,21 @@ namespace zentar::window_tests {
 
 class StandinBrowser {
   public:
-    // From now on web addresses are opened with it.
-    StandinBrowser();
+    enum class Opens { WebAddresses, HtmlFiles };
+
+    // From now on those are opened with it.
+    explicit StandinBrowser(Opens what = Opens::WebAddresses);
     ~StandinBrowser();
     StandinBrowser(const StandinBrowser&) = delete;
     StandinBrowser& operator=(const StandinBrowser&) = delete;
 
-    // The addresses that it was asked to open so far.
+    // What it was asked to open so far: addresses, or paths.
     std::vector<std::string> Opened() const;
 
   private:
     std::filesystem::path folder_;
-    std::wstring before_;  // the command that opened web addresses until then
+    Opens what_;
+    std::wstring before_;  // what opened them until then
 };
 
 }  // namespace zentar::window_tests

@@ -2,15 +2,18 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <richedit.h>
 
 #include <algorithm>
 #include <chrono>
 #include <map>
 
+#include "platform/rtf/rtf_writer.h"
 #include "platform/win32/win32_bitmap.h"
 #include "platform/win32/win32_handle.h"
 #include "tests/contract/controls_contract.h"
 #include "tests/contract/full_screen_contract.h"
+#include "tests/contract/win32/clipboard_content.h"
 #include "tests/contract/win32/the_platform.h"
 #include "tests/contract/win32/win32_user.h"
 
@@ -54,6 +57,19 @@ bool IsGrey(HWND window) {
     }
     EXPECT_FALSE(empty) << "the picture is nowhere to be seen";
     return most <= Colourfulness(surface) + 2;
+}
+
+bool ShowsColour(HWND window, COLORREF colour) {
+    RECT client{};
+    GetClientRect(window, &client);
+    const WindowContext context(window);
+    for (int y = 0; y < client.bottom; ++y) {
+        for (int x = 0; x < client.right; ++x) {
+            if (GetPixel(context.Get(), x, y) == colour)
+                return true;
+        }
+    }
+    return false;
 }
 
 class Win32ControlsWorld : public ControlsWorld {
@@ -151,6 +167,22 @@ class Win32ControlsWorld : public ControlsWorld {
         Settle();
     }
 
+    void SelectText(Form& form, int rich, int from, int to) override {
+        CHARRANGE range{from, to};
+        SetFocus(Of(form, rich));
+        SendMessageW(Of(form, rich), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+        Settle();
+    }
+    void Paste(Form& form, int rich, const std::vector<ColouredRun>& runs) override {
+        ASSERT_TRUE(PutOnClipboard({WriteRtf(runs), {}}));
+        PostMessageW(Of(form, rich), WM_PASTE, 0, 0);
+        Settle();
+    }
+    void Undo(Form& form, int rich) override {
+        PostMessageW(Of(form, rich), EM_UNDO, 0, 0);
+        Settle();
+    }
+
     void PickFromPopup(Form& form, int downs, int /*id*/) override {
         InPopup(form, [downs](HWND top) {
             for (int i = 0; i < downs; ++i)
@@ -178,6 +210,10 @@ class Win32ControlsWorld : public ControlsWorld {
     bool ShownGrey(Form& form, int picture) override {
         Settle();
         return IsGrey(Of(form, picture));
+    }
+    bool Shows(Form& form, int textBox, ColourRef colour) override {
+        Settle();
+        return ShowsColour(Of(form, textBox), colour);
     }
     std::string Tooltip(Form& form, int id) override {
         PostMove(Of(form, id), {1, 1});
@@ -227,6 +263,8 @@ INSTANTIATE_TEST_SUITE_P(Win32, FocusContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FormContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, LooksContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, ImageControlsContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, TextColourContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, RichTextContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FullScreenContract, kWin32);
 
 }  // namespace zentar

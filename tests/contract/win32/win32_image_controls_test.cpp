@@ -3,6 +3,7 @@
 
 #include <uxtheme.h>
 
+#include <optional>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include "tests/contract/controls_contract.h"
 #include "tests/contract/win32/picture_files.h"
 #include "tests/contract/win32/the_platform.h"
+#include "tests/contract/win32/visual_styles.h"
 #include "tests/contract/win32/win32_user.h"
 
 namespace zentar {
@@ -271,7 +273,7 @@ class CaptionColours : public testing::TestWithParam<bool> {
   protected:
     CaptionColours() {
         if (GetParam())
-            ActivateStyles();
+            styles_.emplace();
         form_ = ThePlatform().Services().forms.Create(ContractMainTable());
         Option().SetText("Preview.");
         form_->Show();
@@ -281,10 +283,6 @@ class CaptionColours : public testing::TestWithParam<bool> {
     ~CaptionColours() override {
         form_.reset();
         Settle();
-        if (context_ != INVALID_HANDLE_VALUE) {
-            DeactivateActCtx(0, cookie_);
-            ReleaseActCtx(context_);
-        }
     }
     CaptionColours(const CaptionColours&) = delete;
     CaptionColours& operator=(const CaptionColours&) = delete;
@@ -309,26 +307,7 @@ class CaptionColours : public testing::TestWithParam<bool> {
     }
 
   private:
-    void ActivateStyles() {
-        const std::string manifest =
-            R"(<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">)"
-            R"(<dependency><dependentAssembly><assemblyIdentity type="win32")"
-            R"( name="Microsoft.Windows.Common-Controls" version="6.0.0.0")"
-            R"( processorArchitecture="amd64" publicKeyToken="6595b64144ccf1df" language="*"/>)"
-            R"(</dependentAssembly></dependency></assembly>)";
-        folder_.Write("styles.manifest", manifest);
-        const std::wstring file = (folder_.Path() / "styles.manifest").wstring();
-        ACTCTXW description{};
-        description.cbSize = sizeof description;
-        description.lpSource = file.c_str();
-        context_ = CreateActCtxW(&description);
-        ASSERT_NE(context_, INVALID_HANDLE_VALUE);
-        ASSERT_TRUE(ActivateActCtx(context_, &cookie_));
-    }
-
-    TestFolder folder_;
-    HANDLE context_ = INVALID_HANDLE_VALUE;
-    ULONG_PTR cookie_ = 0;
+    std::optional<VisualStyles> styles_;
     std::unique_ptr<Form> form_;
 };
 

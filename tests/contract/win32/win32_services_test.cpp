@@ -6,6 +6,7 @@
 #include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_text.h"
 #include "platform/window_services.h"
+#include "tests/contract/win32/system_dialog.h"
 #include "tests/contract/win32/the_platform.h"
 #include "tests/contract/win32/win32_user.h"
 
@@ -18,13 +19,6 @@ struct SeenBox {
     std::string text;
     int focusedButton = 0;
 };
-
-std::string TextOf(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return Narrow(text);
-}
 
 // Asks, and presses a key once the box is there; gives the answer and what the user saw.
 Answer AskAndPress(const Message& message, WPARAM key, SeenBox& seen) {

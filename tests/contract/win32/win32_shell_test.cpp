@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +38,10 @@ bool ComesTrue(const std::function<bool()>& condition) {
 }
 
 Shell& TheShell() { return ThePlatform().Services().shell; }
+
+std::string Quoted(const std::string& text) {
+    return std::string(1, '"').append(text).append(1, '"');
+}
 
 std::string CurrentFolder() { return Narrow(fs::current_path().wstring()); }
 
@@ -100,6 +105,54 @@ class Win32ProgramStart : public testing::Test {
   private:
     fs::path currentFolder_ = fs::current_path();
     std::wstring path_ = _wgetenv(L"PATH");
+};
+
+// A kind of file that a program opens which notes how it was asked.
+class Win32FileOpening : public Win32ProgramStart {
+  protected:
+    Win32FileOpening() {
+        AddGame(viewer_, "viewer.exe");
+        const std::wstring command = L"\"" + (viewer_ / "viewer.exe").wstring() + L"\" \"%1\"";
+        Write(kExtension, kKind);
+        Write(std::wstring(kKind) + L"\\shell\\open\\command", command);
+    }
+    ~Win32FileOpening() override {
+        for (const Place& place : kPlaces) {
+            RegDeleteTreeW(place.root, (place.folder + kExtension).c_str());
+            RegDeleteTreeW(place.root, (place.folder + kKind).c_str());
+        }
+    }
+    Win32FileOpening(const Win32FileOpening&) = delete;
+    Win32FileOpening& operator=(const Win32FileOpening&) = delete;
+
+    std::string AddFile(const std::string& name) {
+        const fs::path file = Folder("out & дуэль") / Widen(name);
+        std::ofstream(file) << "text";
+        return Narrow(file.wstring());
+    }
+    bool SomethingStarted() const { return fs::exists(viewer_ / "standin.log"); }
+
+    const fs::path viewer_ = Folder("viewer");
+
+  private:
+    struct Place {
+        HKEY root;
+        std::wstring folder;
+    };
+
+    static void Write(const std::wstring& key, const std::wstring& value) {
+        for (const Place& place : kPlaces) {
+            RegSetKeyValueW(place.root, (place.folder + key).c_str(), nullptr, REG_SZ,
+                            value.c_str(),
+                            static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
+        }
+    }
+
+    // Windows lets a user write the first; Wine reads the other only.
+    inline static const std::vector<Place> kPlaces = {{HKEY_CURRENT_USER, L"Software\\Classes\\"},
+                                                      {HKEY_CLASSES_ROOT, L""}};
+    static constexpr const wchar_t* kExtension = L".zentar-test";
+    static constexpr const wchar_t* kKind = L"ZentarTestFile";
 };
 
 }  // namespace
@@ -170,6 +223,16 @@ TEST_F(Win32ProgramStart, TheGameOfTheFolderStartsThereMinimisedWithItsCommandLi
     EXPECT_FALSE(fs::exists(Folder("on the path") / "standin.log"));
 }
 
+TEST_F(Win32ProgramStart, AnEditorStartsMaximised) {
+    const fs::path folder = Folder("Windows");
+    AddGame(folder, "notepad.exe");
+    ProgramStart start = StartOf(folder, "notepad.exe", " \"C:\\a & дуэль.txt\"");
+    start.window = StartWindow::Maximised;
+    EXPECT_TRUE(Succeeded(TheShell().StartProgram(start)));
+    EXPECT_EQ(LogOf(folder),
+              "notepad.exe \"C:\\a & дуэль.txt\"\r\n" + Narrow(folder.wstring()) + "\r\n3\r\n\r\n");
+}
+
 TEST_F(Win32ProgramStart, AMissingGameIsNotLookedForElsewhere) {
     const Status missing =
         TheShell().StartProgram(StartOf(Folder("empty"), "glquake.exe", " +map a"));
@@ -199,6 +262,37 @@ TEST_F(Win32ProgramStart, TheWindowOfARunningGameIsFoundByItsTitle) {
     EXPECT_TRUE(Succeeded(TheShell().StartProgram(StartOf(game, "quake3.exe", ""))));
     EXPECT_TRUE(ComesTrue([&] { return windows.HasWindowTitled("Quake 3: Arena"); }));
     EXPECT_TRUE(ComesTrue([&] { return !windows.HasWindowTitled("Quake 3: Arena"); }));
+}
+
+TEST_F(Win32FileOpening, AFileOpensWithTheProgramForItsKind) {
+    const std::string file = AddFile("chat 100% & дуэль.zentar-test");
+    const fs::path folder = Folder("Zentar дуэль");
+    const std::string before = CurrentFolder();
+    EXPECT_TRUE(Succeeded(TheShell().OpenFile(file, Narrow(folder.wstring()) + "\\")));
+    std::string expected = Quoted(Narrow((viewer_ / "viewer.exe").wstring()));
+    expected.append(" ").append(Quoted(file)).append("\r\n");
+    expected.append(Narrow(folder.wstring())).append("\r\n1\r\n\r\n");
+    EXPECT_EQ(LogOf(viewer_), expected);
+    EXPECT_EQ(CurrentFolder(), before);
+}
+
+TEST_F(Win32FileOpening, AFileThatIsMissingOpensNothing) {
+    const std::string file = AddFile("there.zentar-test");
+    const std::string folder = Narrow(viewer_.wstring());
+    EXPECT_TRUE(FailedWith(TheShell().OpenFile(file + "x", folder), FileError::NotFound));
+    EXPECT_TRUE(FailedWith(TheShell().OpenFile(folder + "\\viewer", folder), FileError::NotFound));
+    EXPECT_TRUE(FailedWith(TheShell().OpenFile("there.zentar-test", folder), FileError::BadName));
+    EXPECT_TRUE(FailedWith(TheShell().OpenFile("viewer.exe", folder), FileError::BadName));
+    EXPECT_TRUE(FailedWith(TheShell().OpenFile("https://a.example/", folder), FileError::BadName));
+    EXPECT_TRUE(FailedWith(TheShell().OpenFile(file, "Zentar"), FileError::BadName));
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_FALSE(SomethingStarted());
+}
+
+TEST_F(Win32FileOpening, AFileOfAnUnknownKindOpensNothing) {
+    const std::string file = AddFile("chat.zentar-unknown");
+    EXPECT_FALSE(TheShell().OpenFile(file, Narrow(viewer_.wstring())).Ok());
+    EXPECT_FALSE(SomethingStarted());
 }
 
 }  // namespace zentar

@@ -142,7 +142,7 @@ TEST_F(DemoFilterTab, ClearingShowAllBringsTheFilterToLife) {
     form->UserClick(IDC_chkShowAllDemos);
     for (const int id : kFilterControls)
         EXPECT_TRUE(Enabled(id)) << id;
-    EXPECT_EQ(form->GetTextBox(IDC_txtDemoFilter).Background(), SystemColour::Window);
+    EXPECT_EQ(form->GetTextBox(IDC_txtDemoFilter).Background(), Colour(SystemColour::Window));
     EXPECT_EQ(form->GetListBox(IDC_lstDemoFilter).Background(), SystemColour::Window);
     EXPECT_EQ(form->FocusedId(), IDC_cmdFilter);
     EXPECT_EQ(Listed(), Entries{"fred"}) << "the filter works at once";
@@ -154,7 +154,7 @@ TEST_F(DemoFilterTab, TickingShowAllGreysTheFilterAndListsAll) {
     form->UserClick(IDC_chkShowAllDemos);
     for (const int id : kFilterControls)
         EXPECT_FALSE(Enabled(id)) << id;
-    EXPECT_EQ(form->GetTextBox(IDC_txtDemoFilter).Background(), SystemColour::ButtonFace);
+    EXPECT_EQ(form->GetTextBox(IDC_txtDemoFilter).Background(), Colour(SystemColour::ButtonFace));
     EXPECT_EQ(form->GetListBox(IDC_lstDemoFilter).Background(), SystemColour::ButtonFace);
     EXPECT_EQ(Listed(), (Entries{"bob", "fred"}));
     EXPECT_NE(form->FocusedId(), IDC_cmdFilter);

@@ -173,6 +173,93 @@ TEST_F(SettingsTest, TheFilterStandsInItsControlsAfterTheStart) {
     EXPECT_THAT(Demos(), ElementsAre("Duel"));
 }
 
+TEST_F(SettingsTest, TheNamesAndOptionsOfTranscriptsStandInTheirControlsAfterTheStart) {
+    WriteSettings({"TranscriptHTML=1", "TranscriptGameplay=1", "Player1Name=Bob",
+                   "Player1Colour=255", "Player9Name=\xC1\xEE\xEE", "Player24Name= x ",
+                   "Player24Colour=65280", "TranscriptBackground=8", "TranscriptMessages=16"});
+    Start();
+    const auto box = [this](int number) -> TextBox& {
+        return Window().GetTextBox(IDC_txtPlayer1 + number - 1);
+    };
+    EXPECT_TRUE(Window().GetCheckBox(IDC_chkTranscriptHTML).Checked());
+    EXPECT_TRUE(Window().GetCheckBox(IDC_chkTranscriptGameplay).Checked());
+    EXPECT_EQ(box(1).Text(), "Bob");
+    EXPECT_EQ(box(9).Text(), "\xC3\x81\xC3\xAE\xC3\xAE");
+    EXPECT_EQ(box(10).Text(), "");
+    EXPECT_EQ(box(24).Text(), " x ");
+    EXPECT_EQ(box(1).Foreground(), Colour(ColourRef{255}));
+    EXPECT_EQ(box(2).Foreground(), Colour(SystemColour::WindowText));
+    EXPECT_EQ(box(24).Foreground(), Colour(ColourRef{65280}));
+    EXPECT_EQ(box(2).Background(), Colour(ColourRef{8}));
+    EXPECT_EQ(Window().GetTextBox(IDC_txtTranscriptMessages).Foreground(), Colour(ColourRef{16}));
+    EXPECT_TRUE(Window().AnyControl(IDC_txtTranscriptMessages).Enabled());
+    EXPECT_TRUE(Window().AnyControl(IDC_cmdClearNames).Enabled());
+}
+
+TEST_F(SettingsTest, WithoutHtmlTheColoursOfTranscriptsAreKeptButNotShown) {
+    const std::vector<std::string> lines = {"TranscriptHTML=0", "Player1Name=Bob",
+                                            "Player1Colour=255", "TranscriptBackground=8",
+                                            "TranscriptMessages=16"};
+    WriteSettings(lines);
+    Start();
+    EXPECT_EQ(Window().GetTextBox(IDC_txtPlayer1).Foreground(), Colour(SystemColour::WindowText));
+    EXPECT_EQ(Window().GetTextBox(IDC_txtPlayer1).Background(), Colour(SystemColour::Window));
+    EXPECT_FALSE(Window().AnyControl(IDC_txtTranscriptMessages).Enabled());
+    EXPECT_FALSE(Window().AnyControl(IDC_labColourUsed).Enabled());
+    Quit();
+    EXPECT_EQ(AfterRoundTrip(lines), Golden({{"TranscriptHTML=", "0"},
+                                             {"Player1Name=", "Bob"},
+                                             {"Player1Colour=", "255"},
+                                             {"TranscriptBackground=", "8"},
+                                             {"TranscriptMessages=", "16"}}));
+}
+
+TEST_F(SettingsTest, AsColoursTextsAreNumbersAsFarAsTheyGo) {
+    EXPECT_EQ(AfterRoundTrip({"TranscriptMessages=12abc", "TranscriptBackground=blue",
+                              "Player1Colour=12abc", "Player2Colour=blue"}),
+              Golden({{"TranscriptMessages=", "12"},
+                      {"TranscriptBackground=", "0"},
+                      {"Player1Colour=", "12abc"},
+                      {"Player2Colour=", "blue"}}));
+}
+
+TEST_F(SettingsTest, TheTypeOfATextSelectsItsOption) {
+    const std::vector<int> options = {IDC_optQ3TextName,     IDC_optQ3TextServer,
+                                      IDC_optQ3TextPublic,   IDC_optQ3TextTeam,
+                                      IDC_optQ3TextAttacker, IDC_optQ3TextTarget};
+    for (std::size_t type = 0; type < options.size(); ++type) {
+        WriteSettings({"Q3TextType=" + std::to_string(type)});
+        Start();
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            EXPECT_EQ(Window().GetOptionButton(options[i]).Selected(), i == type) << type;
+        }
+        Quit();
+        EXPECT_EQ(os.files.Contents(kIni), Golden({{"Q3TextType=", std::to_string(type)}}));
+    }
+}
+
+TEST_F(SettingsTest, ANumberThatIsNoTypeIsKeptAndSelectsNothing) {
+    for (const char* number : {"6", "200", "255"}) {
+        WriteSettings({"Q3TextType=" + std::string(number)});
+        Start();
+        EXPECT_TRUE(Window().GetOptionButton(IDC_optQ3TextName).Selected());
+        EXPECT_EQ(Text(IDC_txtQ3TextCode), "seta name \"^^0^7\"");
+        Quit();
+        EXPECT_EQ(os.files.Contents(kIni), Golden({{"Q3TextType=", number}}));
+    }
+    for (const char* number : {"256", "-1", "name"}) {
+        EXPECT_EQ(AfterRoundTrip({"Q3TextType=" + std::string(number)}), Golden({}));
+    }
+}
+
+TEST_F(SettingsTest, TheOptionsOfATextStandInTheirControlsAndItsCode) {
+    WriteSettings({"Q3TextType=1", "Q3TextKeyfox=1", "Q3TextOSP=1"});
+    Start();
+    EXPECT_TRUE(Window().GetCheckBox(IDC_chkQ3TextKeyfox).Checked());
+    EXPECT_TRUE(Window().GetCheckBox(IDC_chkQ3TextOSP).Checked());
+    EXPECT_EQ(Text(IDC_txtQ3TextCode), "sv_hostname ^8^7");
+}
+
 TEST_F(SettingsTest, AMissingGameStoresItsDriveOnly) {
     os.files.Remove(kQuake1Folder + "glquake.exe");
     EXPECT_EQ(AfterRoundTrip({}), Golden({{"Q1Folder=", "c:"}}));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/form_tables.h"
@@ -107,6 +108,122 @@ TEST(CaptionsTest, OfTheDemosTab) {
 TEST(CaptionsTest, OfTheMiscTab) {
     ExpectWording(MainWindowTable(), {{IDC_cmdDemoInstaller, "Install Demos",
                                        "Click here to select a folder of demos to install."}});
+}
+
+TEST(CaptionsTest, OfTheChatFrame) {
+    ExpectWording(
+        MainWindowTable(),
+        {
+            {IDC_fraChat, "Quake2 Chat Transcript", ""},
+            {IDC_cmdScanForNames, "Scan For Names",
+             "Click here to scan a logfile or condump for all participating player names."},
+            {IDC_cmdClearNames, "Clear",
+             "Click here to clear all player names (and hold Shift to also clear colours)."},
+            {IDC_chkTranscriptHTML, "Create transcript as HTML code instead of plain text.",
+             "If checked, the transcript will be in the colours specified when you double-click "
+             "the names."},
+            {IDC_labColourUsed, "Colour used:", ""},
+            {IDC_txtTranscriptMessages, "msgs", "Shows the colour used for game messages."},
+            {IDC_chkTranscriptGameplay, "Include game messages.",
+             "If checked, gameplay messages (in addition to speech) are included in the "
+             "transcript."},
+            {IDC_cmdCreateTranscript, "Create Transcript",
+             "Click here to create a chat transcript."},
+        });
+    for (int box = IDC_txtPlayer1; box <= IDC_txtPlayer24; ++box) {
+        ExpectWording(
+            MainWindowTable(),
+            {{box, "", "Name of a player whose speech you wish to include in the transcript."}});
+    }
+}
+
+TEST(CaptionsTest, OfTheQ3TextTab) {
+    ExpectWording(
+        MainWindowTable(),
+        {
+            {IDC_labQ3Name,
+             "The box below is used to create your own coloured name (or speech messages) for "
+             "Quake 3: Arena.  Type your name (or speech) into the box, and then select the "
+             "characters whose colours you wish to change and click a colour box.  \"Clipboard\" "
+             "copies the code to the clipboard and \"Q3Config\" to your \"q3config.cfg\" file.  "
+             "(Note: The \"pause\" key has been added to the code for your convenience when "
+             "testing your designs).",
+             ""},
+            {IDC_rtbQ3Text, "", ""},
+            {IDC_cmdQ3TextBlack, "", "Changes the selected text to black."},
+            {IDC_cmdQ3TextRed, "", "Changes the selected text to red."},
+            {IDC_cmdQ3TextGreen, "", "Changes the selected text to green."},
+            {IDC_cmdQ3TextYellow, "", "Changes the selected text to yellow."},
+            {IDC_cmdQ3TextBlue, "", "Changes the selected text to blue."},
+            {IDC_cmdQ3TextCyan, "", "Changes the selected text to cyan."},
+            {IDC_cmdQ3TextMagenta, "", "Changes the selected text to magenta."},
+            {IDC_cmdQ3TextWhite, "", "Changes the selected text to white."},
+            {IDC_labQ3TextCode, "This text code is designed to be used as:", ""},
+            {IDC_txtQ3TextCode, "seta name UnnamedPlayer",
+             "Shows the Quake 3 code needed for the coloured name (or text)."},
+        });
+}
+
+TEST(CaptionsTest, OfTheUsesOfACodeAndItsOptions) {
+    ExpectWording(
+        MainWindowTable(),
+        {
+            {IDC_optQ3TextName, "Player name.",
+             "Specifies that the coloured text is to be used for a player name."},
+            {IDC_optQ3TextServer, "Server name.",
+             "Specifies that the coloured text is to be used for a server name."},
+            {IDC_optQ3TextPublic, "Public speech.",
+             "Specifies that the coloured text is to be used for public speech."},
+            {IDC_optQ3TextTeam, "Team speech.",
+             "Specifies that the coloured text is to be used for team speech."},
+            {IDC_optQ3TextAttacker, "Attacker speech.",
+             "Specifies that the coloured text is to be used for attacker speech."},
+            {IDC_optQ3TextTarget, "Target speech.",
+             "Specifies that the coloured text is to be used for target speech."},
+            {IDC_chkQ3TextKeyfox,
+             "Make all text compatible with 'Keyfox' from its maker's web site.",
+             "If checked, part of the Quake 3 code is stripped to be compatible with 'Keyfox' "
+             "from its maker's web site."},
+            {IDC_chkQ3TextOSP, "Make black text compatible with Quake 3 'OSP' mods.",
+             "If checked, all black text in the Quake 3 code is made compatible with Quake 3 "
+             "'OSP' mods."},
+        });
+}
+
+TEST(CaptionsTest, OfTheButtonsThatUseACode) {
+    ExpectWording(
+        MainWindowTable(),
+        {
+            {IDC_cmdQ3TextSave, "Save As...",
+             "Click here to save this Quake3 name/text for later editing."},
+            {IDC_cmdQ3TextOpen, "Open...", "Click here to open a saved Quake3 coloured name/text."},
+            {IDC_cmdQ3TextClipboard, "Clipboard",
+             "Click here to copy the Quake3 text code to the Windows clipboard."},
+            {IDC_chkQ3TextAddSlash, "Include a leading backslash when copying to clipboard.",
+             "If checked, a leading backslash is added when clicking the \"Clipboard\" button."},
+            {IDC_cmdQ3TextQ3Config, "Q3Config",
+             "Click here to add the Quake3 text code to your \"q3config.cfg\" file."},
+        });
+}
+
+// The face of a colour button says what it does, to those who see it.
+TEST(CaptionsTest, OfTheColoursAreTheirFaces) {
+    const std::vector<std::pair<int, ColourRef>> faces = {
+        {IDC_cmdQ3TextBlack, 0x000000},   {IDC_cmdQ3TextRed, 0x0000FF},
+        {IDC_cmdQ3TextGreen, 0x00FF00},   {IDC_cmdQ3TextYellow, 0x00FFFF},
+        {IDC_cmdQ3TextBlue, 0xFF0000},    {IDC_cmdQ3TextCyan, 0xFFFF00},
+        {IDC_cmdQ3TextMagenta, 0xFF00FF}, {IDC_cmdQ3TextWhite, 0xFFFFFF}};
+    std::size_t found = 0;
+    for (const ControlRow& row : MainWindowTable().controls) {
+        for (const auto& [id, face] : faces) {
+            if (row.id == id) {
+                ++found;
+                EXPECT_EQ(row.kind, ControlKind::ColourButton);
+                EXPECT_EQ(row.colour, face) << id;
+            }
+        }
+    }
+    EXPECT_EQ(found, faces.size());
 }
 
 TEST(CaptionsTest, OfThePreferences) {

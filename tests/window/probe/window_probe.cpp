@@ -49,6 +49,11 @@ void LookAtCaption(HWND control, ProbeAnswer& answer) {
     if (lstrcmpiW(kind, L"Static") == 0) {
         answer.needed = LabelSize(control);
     } else {
+        // Of a width, it is asked how high a caption of several lines then is.
+        RECT area{};
+        GetClientRect(control, &area);
+        const bool wraps = (GetWindowLongW(control, GWL_STYLE) & BS_MULTILINE) != 0;
+        answer.needed.cx = wraps ? area.right : 0;
         SendMessageW(control, BCM_GETIDEALSIZE, 0, reinterpret_cast<LPARAM>(&answer.needed));
     }
 }

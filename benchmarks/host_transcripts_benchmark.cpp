@@ -1,0 +1,220 @@
+// How fast a large log is scanned for names and made a transcript, beside yardsticks measured in
+// the same run: grep, which only counts the lines that may be speech, and the same transcript in
+// Perl.
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iomanip>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "benchmarks/posix_file_system.h"
+#include "benchmarks/ratio_reporter.h"
+#include "benchmarks/repeated_file.h"
+#include "benchmarks/sample_logs.h"
+#include "transcripts/console_lines.h"
+#include "transcripts/name_scan.h"
+#include "transcripts/transcript_writer.h"
+
+namespace zentar::benchmarks {
+
+namespace {
+
+constexpr std::uint64_t kMegabyte = 1024 * 1024;
+constexpr std::uint64_t kLogLength = 256 * kMegabyte;
+constexpr double kMostMemory = 64;  // megabytes
+
+constexpr const char* kSource = "C:\\Quake III Arena\\baseq3\\games.log";
+constexpr const char* kSite = "https://zentar.example/";
+
+std::string g_log;
+std::string g_ours;
+std::string g_perls;
+
+void RunProgram(benchmark::State& state, const std::vector<std::string>& command,
+                const std::string& output) {
+    std::vector<char*> arguments;
+    for (const std::string& argument : command) {
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    }
+    arguments.push_back(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        // Not to /dev/null, for which grep would stop at the first line.
+        const int file = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        dup2(file, STDOUT_FILENO);
+        setenv("LC_ALL", "C", 1);
+        execvp(arguments[0], arguments.data());
+        _exit(127);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (status != 0) {
+        state.SkipWithError("it failed");
+    }
+}
+
+void Grep(benchmark::State& state) {
+    for (auto _ : state) {
+        RunProgram(state, {"grep", "-c", ": ", g_log}, g_log + ".count");
+    }
+}
+
+// The 24 names: the speakers, a few of them in the same colour as another, and four who say
+// nothing.
+std::vector<ChosenPlayer> Players() {
+    std::vector<ChosenPlayer> players;
+    for (const std::string_view speaker : kSpeakers) {
+        const auto number = static_cast<ColourRef>(players.size() % 16);
+        players.push_back({std::string(speaker), number * 0x0B1D0E});
+    }
+    for (const char* silent : {"Doom", "Phobos", "Gorre", "Hossman"}) {
+        players.push_back({silent, {}});
+    }
+    return players;
+}
+
+std::string Hex(ColourRef colour) {
+    std::ostringstream hex;
+    hex << std::hex << std::setfill('0');
+    for (const unsigned shift : {0U, 8U, 16U}) {
+        hex << std::setw(2) << (colour >> shift & 0xFFU);
+    }
+    return hex.str();
+}
+
+void Perl(benchmark::State& state) {
+    std::vector<std::string> command = {
+        "perl", ZENTAR_BENCHMARKS "/transcript.pl", g_log, g_perls, kSource, kSite};
+    for (const ChosenPlayer& player : Players()) {
+        command.push_back(player.name + "=" + (player.colour ? Hex(*player.colour) : ""));
+    }
+    for (auto _ : state) {
+        RunProgram(state, command, g_log + ".perl");
+    }
+}
+
+void Scan(benchmark::State& state) {
+    PosixFileSystem files;
+    for (auto _ : state) {
+        const auto file = files.OpenForReading(g_log);
+        ConsoleLines lines(*file.Value());
+        if (ScanForNames(lines, true).size() != kSpeakers.size()) {
+            state.SkipWithError("not the names");
+        }
+    }
+}
+
+void WriteTranscript(ReadableFile& log, const std::string& path) {
+    TranscriptOptions options{.html = true,
+                              .gameMessages = true,
+                              .quake3 = true,
+                              .players = {},
+                              .background = {},
+                              .messages = {},
+                              .source = kSource,
+                              .webSite = kSite};
+    const std::vector<ChosenPlayer> players = Players();
+    std::copy(players.begin(), players.end(), options.players.begin());
+    std::ofstream out(path, std::ios::binary);
+    TranscriptWriter writer(options, [&out](std::string_view text) { out << text; });
+    ConsoleLines lines(log);
+    writer.Begin();
+    while (const auto line = lines.Next()) {
+        writer.Add(*line);
+    }
+    writer.End();
+}
+
+void Transcript(benchmark::State& state) {
+    PosixFileSystem files;
+    for (auto _ : state) {
+        const auto file = files.OpenForReading(g_log);
+        WriteTranscript(*file.Value(), g_ours);
+    }
+}
+
+// A log that nobody could hold in memory.
+void ScanRepeated(benchmark::State& state, const std::string& piece, std::uint64_t length) {
+    for (auto _ : state) {
+        RepeatedFile file(piece, length, "\nBob: hi\n");
+        ConsoleLines lines(file);
+        const auto names = ScanForNames(lines, false);
+        if (names.empty() || names.back() != "Bob") {
+            state.SkipWithError("not the names");
+        }
+    }
+}
+
+bool IsSame(const std::string& one, const std::string& other) {
+    std::ifstream first(one, std::ios::binary);
+    std::ifstream second(other, std::ios::binary);
+    return std::filesystem::file_size(one) == std::filesystem::file_size(other) &&
+           std::equal(std::istreambuf_iterator<char>(first), std::istreambuf_iterator<char>(),
+                      std::istreambuf_iterator<char>(second));
+}
+
+void Register(const std::string& name, const std::function<void(benchmark::State&)>& run,
+              int repetitions) {
+    benchmark::RegisterBenchmark(name.c_str(), run)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Repetitions(repetitions)
+        ->Iterations(1);
+}
+
+double PeakMegabytes() {
+    struct rusage usage {};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) / 1024;
+}
+
+}  // namespace
+
+int Run(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    const std::string base = argc > 1 ? argv[1] : "benchmark_data";
+    g_log = LargeLog(base, kLogLength);
+    g_ours = g_log + ".htm";
+    g_perls = g_log + ".perl.htm";
+    Register("grep", Grep, 7);
+    Register("scan", Scan, 7);
+    Register("transcript", Transcript, 7);
+    Register("perl", Perl, 3);
+    Register(
+        "scan of a line of 1 GB",
+        [](benchmark::State& state) { ScanRepeated(state, "x", 1024 * kMegabyte); }, 1);
+    Register(
+        "scan of 4 GB of lines that end in CR alone",
+        [](benchmark::State& state) { ScanRepeated(state, "a line: \r", 4096 * kMegabyte); }, 1);
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    std::printf("\n%-45s %11s %11s\n", "best of the repetitions", "Zentar", "yardstick");
+    reporter.PrintRatio("names of a log of 256 MB, against grep", "scan", "grep", 2.0);
+    reporter.PrintRatio("transcript of it, against Perl", "transcript", "perl", 0.2);
+    reporter.PrintRatio("transcript of it, against grep", "transcript", "grep", 6.0);
+    std::printf("%-45s %8.1f MB (target %.0f)\n", "most memory at any time", PeakMegabytes(),
+                kMostMemory);
+    if (!IsSame(g_ours, g_perls)) {
+        std::printf("The transcripts differ: %s and %s\n", g_ours.c_str(), g_perls.c_str());
+        return 1;
+    }
+    std::printf("The transcripts are the same, byte for byte.\n");
+    return 0;
+}
+
+}  // namespace zentar::benchmarks
+
+int main(int argc, char** argv) { return zentar::benchmarks::Run(argc, argv); }

@@ -1,0 +1,74 @@
+// The colour codes of Quake 3: taken out of game text, and put in for a coloured text.
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "q3tools/colour_codes.h"
+
+namespace {
+
+using namespace zentar;
+
+void Require(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+// Place by place. What is left may look like a code anew: "^^11" leaves "^1".
+std::string PlainStrip(const std::string& text) {
+    std::string plain;
+    std::size_t i = 0;
+    while (i < text.size()) {
+        const std::string two = text.substr(i, 2);
+        if (text.substr(i, 3) == "^^0") {
+            i += 3;
+        } else if (two.size() == 2 && two[0] == '^' && two[1] >= '0' && two[1] <= '7') {
+            i += 2;
+        } else {
+            plain += text[i];
+            ++i;
+        }
+    }
+    return plain;
+}
+
+// Without a caret in the text, stripping its code gives the text back. The OSP mods' black is no
+// code of the game.
+void CheckThereAndBack(std::string_view bytes) {
+    constexpr std::array<ColourRef, 8> kColours = {kQ3Black, kQ3Red,  kQ3Green,   kQ3Yellow,
+                                                   kQ3Blue,  kQ3Cyan, kQ3Magenta, kQ3White};
+    RichText text;
+    std::string plain;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const char letter = static_cast<char>(bytes[i] & 0x7F);
+        const char character = letter == '^' ? 'c' : letter;
+        text.endColour = kColours[static_cast<unsigned char>(bytes[i + 1]) % kColours.size()];
+        text.runs.push_back({std::string(1, character), text.endColour});
+        plain += character;
+    }
+    for (int type = 0; type < 6; ++type) {
+        const std::string code =
+            BuildQ3TextCode(text, {.type = static_cast<Q3TextType>(type), .keyfox = true});
+        Require(StripColourCodes(code).ends_with(" " + plain));
+        Require(code.size() <= plain.size() * 4 + 32);
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    const std::string stripped = StripColourCodes(bytes);
+    Require(stripped == PlainStrip(bytes));
+    // Only carets and digits are taken out.
+    const auto text = [](std::string all) {
+        std::erase_if(all, [](char c) { return c == '^' || (c >= '0' && c <= '7'); });
+        return all;
+    };
+    Require(text(stripped) == text(bytes));
+    CheckThereAndBack(bytes);
+    return 0;
+}

@@ -1,0 +1,217 @@
+#include "q3tools/q3_text_tab.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "core/file_name.h"
+#include "core/file_reading.h"
+#include "core/game_folders.h"
+#include "core/game_text.h"
+#include "core/questions.h"
+#include "platform/file_system.h"
+#include "platform/window_services.h"
+#include "q3tools/colour_codes.h"
+#include "q3tools/q3_config.h"
+#include "q3tools/q3_text_files.h"
+#include "q3tools/q3_text_messages.h"
+
+namespace zentar {
+namespace {
+
+// In the order of their buttons.
+constexpr std::array<ColourRef, kQ3Colours> kColours = {kQ3Black, kQ3Red,  kQ3Green,   kQ3Yellow,
+                                                        kQ3Blue,  kQ3Cyan, kQ3Magenta, kQ3White};
+
+// An orange on which black, white and yellow letters can all be read.
+constexpr ColourRef kEditorBackground = 0x006CD8;
+
+// Of a file, without its folder and the four characters of its extension.
+std::string_view NameToShow(std::string_view path) {
+    std::string_view name = FileNameOf(path);
+    for (int characters = 0; characters < 4 && !name.empty();) {
+        characters += (static_cast<unsigned char>(name.back()) & 0xC0U) == 0x80U ? 0 : 1;
+        name.remove_suffix(1);
+    }
+    return name;
+}
+
+}  // namespace
+
+Q3TextTab::Q3TextTab(ProgramState& state, const Platform& platform, const Q3TextControls& controls)
+    : state_(state), platform_(platform), controls_(controls) {
+    controls_.rtbQ3Text.SetBackground(kEditorBackground);
+    BindEditor();
+    BindTypes();
+    BindCommands();
+}
+
+void Q3TextTab::BindEditor() {
+    ControlEvents editor;
+    editor.change = [this] { rtbQ3Text_Change(); };
+    controls_.rtbQ3Text.SetEvents(std::move(editor));
+    for (std::size_t i = 0; i < kQ3Colours; ++i) {
+        ControlEvents events;
+        events.click = [this, i] { ColourSelection(kColours[i]); };
+        controls_.cmdColour[i]->SetEvents(std::move(events));
+    }
+}
+
+void Q3TextTab::BindTypes() {
+    for (std::size_t type = 0; type < kQ3TextTypes; ++type) {
+        ControlEvents events;
+        events.click = [this, type] {
+            state_.settings.Q3TextType = static_cast<std::uint8_t>(type);
+            BuildQ3TextCode();
+        };
+        controls_.optQ3Text[type]->SetEvents(std::move(events));
+    }
+    for (CheckBox* option : {&controls_.chkQ3TextKeyfox, &controls_.chkQ3TextOSP}) {
+        ControlEvents events;
+        events.click = [this] { BuildQ3TextCode(); };
+        option->SetEvents(std::move(events));
+    }
+}
+
+void Q3TextTab::BindCommands() {
+    const auto bind = [this](Button& button, void (Q3TextTab::*procedure)()) {
+        ControlEvents events;
+        events.click = [this, procedure] {
+            guard_.Run([this, procedure] { (this->*procedure)(); });
+        };
+        button.SetEvents(std::move(events));
+    };
+    bind(controls_.cmdQ3TextSave, &Q3TextTab::cmdQ3TextSave_Click);
+    bind(controls_.cmdQ3TextOpen, &Q3TextTab::cmdQ3TextOpen_Click);
+    bind(controls_.cmdQ3TextClipboard, &Q3TextTab::cmdQ3TextClipboard_Click);
+    bind(controls_.cmdQ3TextQ3Config, &Q3TextTab::cmdQ3TextQ3Config_Click);
+}
+
+void Q3TextTab::LoadCurrent() {
+    BuildQ3TextCode();
+    Load(state_.Q3TextFolder + "current.ini");
+}
+
+void Q3TextTab::LoadLastUsed() {
+    if (!state_.settings.Q3TextText.empty()) {
+        Load(state_.settings.Q3TextText);
+    }
+    RichTextBox& editor = controls_.rtbQ3Text;
+    editor.PutCaret(static_cast<int>(editor.Text().size()));
+    BuildQ3TextCode();
+}
+
+bool Q3TextTab::Load(const std::string& path) {
+    const Result<std::vector<ColouredRun>> runs = LoadColouredText(platform_.files, path);
+    if (runs.Ok()) {
+        controls_.rtbQ3Text.SetContent(runs.Value());
+    }
+    return runs.Ok();
+}
+
+void Q3TextTab::BuildQ3TextCode() {
+    RichTextBox& editor = controls_.rtbQ3Text;
+    const RichText content = editor.Content();
+    controls_.txtQ3TextCode.SetText(zentar::BuildQ3TextCode(
+        content, {.type = static_cast<Q3TextType>(state_.settings.Q3TextType),
+                  .keyfox = controls_.chkQ3TextKeyfox.Checked(),
+                  .osp = controls_.chkQ3TextOSP.Checked()}));
+    editor.PutCaret(editor.Caret());
+    const bool hasText = !content.runs.empty();
+    for (Button* button :
+         {&controls_.cmdQ3TextClipboard, &controls_.cmdQ3TextQ3Config, &controls_.cmdQ3TextSave}) {
+        button->SetEnabled(hasText);
+    }
+}
+
+// A double quote would end the text in the game's console.
+void Q3TextTab::rtbQ3Text_Change() {
+    RichTextBox& editor = controls_.rtbQ3Text;
+    const int caret = editor.Caret();
+    std::string text = editor.Text();
+    if (text.find('"') != std::string::npos) {
+        std::replace(text.begin(), text.end(), '"', '\'');
+        editor.SetText(text);
+    }
+    BuildQ3TextCode();
+    editor.PutCaret(caret);
+}
+
+void Q3TextTab::ColourSelection(ColourRef colour) {
+    controls_.rtbQ3Text.ColourSelection(colour);
+    BuildQ3TextCode();
+    // Where the user goes on typing.
+    controls_.rtbQ3Text.SetFocus();
+}
+
+void Q3TextTab::cmdQ3TextSave_Click() {
+    const RichText content = controls_.rtbQ3Text.Content();
+    const std::optional<std::string> path =
+        platform_.windows.ChooseFileToSave(messages::ColouredTextToSave(
+            state_.Q3TextFolder, SuggestedFileName(controls_.rtbQ3Text.Text())));
+    if (!path || path->empty() || !MayOverwrite(*path)) {
+        return;
+    }
+    state_.settings.Q3TextText = *path;
+    // Usually it is not there yet.
+    IgnoreFailure(platform_.files.ClearAttributes(*path));
+    if (!SaveColouredText(platform_.files, *path, content.runs).Ok()) {
+        platform_.windows.Ask(messages::ColouredTextNotSaved());
+    }
+}
+
+bool Q3TextTab::MayOverwrite(const std::string& path) {
+    return !FileExists(platform_.files, path) ||
+           (Confirmed(state_, platform_.windows,
+                      messages::ReallyOverwriteColouredText(NameToShow(path))) &&
+            MayChangeFile(platform_, path, messages::OverwriteReadOnlyColouredText()));
+}
+
+void Q3TextTab::cmdQ3TextOpen_Click() {
+    const std::optional<std::string> path =
+        platform_.windows.ChooseFileToOpen(messages::ColouredTextToOpen(state_.Q3TextFolder));
+    if (!path || path->empty()) {
+        return;
+    }
+    state_.settings.Q3TextText = *path;
+    if (!Load(*path)) {
+        platform_.windows.Ask(messages::ColouredTextNotOpened());
+    }
+}
+
+void Q3TextTab::cmdQ3TextClipboard_Click() {
+    if (!Confirmed(state_, platform_.windows, messages::ReallyCopyCode())) {
+        return;
+    }
+    // As a command in the game's console, where a word alone would be speech.
+    const std::string slash = controls_.chkQ3TextAddSlash.Checked() ? "\\" : "";
+    if (!platform_.windows.PutOnClipboard(slash + controls_.txtQ3TextCode.Text()).Ok()) {
+        platform_.windows.Ask(messages::CodeNotCopied());
+    }
+}
+
+void Q3TextTab::cmdQ3TextQ3Config_Click() {
+    CheckGameFolder(state_, platform_, GameId(kQuake3));
+    if (!state_.GameFolderOK) {
+        return;
+    }
+    const std::string path = Q3ConfigPath(state_);
+    if (!FileExists(platform_.files, path)) {
+        platform_.windows.Ask(messages::NoQ3Config());
+        return;
+    }
+    if (!Confirmed(state_, platform_.windows, messages::ReallyAddCode()) ||
+        !MayChangeFile(platform_, path, messages::AddToReadOnlyConfig())) {
+        return;
+    }
+    // Where that is refused, so is the line, and its message says why.
+    IgnoreFailure(platform_.files.ClearAttributes(path));
+    const std::string line = Utf8ToGameText(controls_.txtQ3TextCode.Text()) + "\r\n";
+    if (!AppendToConfig(platform_.files, path, line).Ok()) {
+        platform_.windows.Ask(messages::CodeNotAdded());
+        return;
+    }
+    platform_.windows.Sound(Beep::Information);
+}
+
+}  // namespace zentar

@@ -1,0 +1,107 @@
+// What other programs find on the clipboard.
+#include <windows.h>
+
+#include <chrono>
+#include <string>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "platform/win32/win32_handle.h"
+#include "platform/win32/win32_text.h"
+#include "platform/window_services.h"
+#include "tests/contract/file_system_contract.h"
+#include "tests/contract/win32/clipboard_content.h"
+#include "tests/contract/win32/the_platform.h"
+
+namespace zentar {
+namespace {
+
+Status Put(const std::string& text) {
+    return ThePlatform().Services().windows.PutOnClipboard(text);
+}
+
+std::string Pasted() { return Narrow(OnClipboard().text); }
+
+// Another program that has the clipboard open, for so long or until this goes.
+class Holder {
+  public:
+    explicit Holder(DWORD milliseconds) : thread_([this, milliseconds] { Hold(milliseconds); }) {
+        WaitForSingleObject(opened_, INFINITE);
+        EXPECT_TRUE(holds_);
+    }
+    ~Holder() {
+        SetEvent(released_);
+        thread_.join();
+        CloseHandle(opened_);
+        CloseHandle(released_);
+    }
+    Holder(const Holder&) = delete;
+    Holder& operator=(const Holder&) = delete;
+
+  private:
+    void Hold(DWORD milliseconds) {
+        const UniqueWindow window(CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0,
+                                                  HWND_MESSAGE, nullptr, nullptr, nullptr));
+        holds_ = OpenClipboard(window.Get()) != FALSE;
+        SetEvent(opened_);
+        WaitForSingleObject(released_, milliseconds);
+        CloseClipboard();
+    }
+
+    bool holds_ = false;
+    HANDLE opened_ = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    HANDLE released_ = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    std::thread thread_;  // the last, as it uses the others
+};
+
+}  // namespace
+
+TEST(Win32Clipboard, ATextIsPastedAsItIs) {
+    for (const std::string text : {"seta name \"^1A^7b\"", "дуэль & Größe \U0001F47E",
+                                   "one\r\ntwo\r\n", "\\bind pause \"say\"", ""}) {
+        EXPECT_TRUE(Succeeded(Put(text)));
+        EXPECT_EQ(Pasted(), text);
+    }
+}
+
+TEST(Win32Clipboard, ALongTextIsPastedWhole) {
+    std::string text;
+    for (int i = 0; text.size() < 100'000; ++i)
+        text += std::to_string(i) + " дуэль ";
+    EXPECT_TRUE(Succeeded(Put(text)));
+    EXPECT_EQ(Pasted(), text);
+}
+
+// A program that takes formatted text first would paste what was there before.
+TEST(Win32Clipboard, NothingElseIsLeftBesideTheText) {
+    EXPECT_TRUE(PutOnClipboard({"{\\rtf1 old}", L"old"}));
+    EXPECT_EQ(OnClipboard().rtf, "{\\rtf1 old}");
+    EXPECT_TRUE(Succeeded(Put("new")));
+    EXPECT_EQ(OnClipboard().rtf, "");
+    EXPECT_EQ(Pasted(), "new");
+}
+
+TEST(Win32Clipboard, AProgramThatHoldsItForAMomentIsWaitedFor) {
+    EXPECT_TRUE(Succeeded(Put("old")));
+    {
+        const Holder holder(150);
+        EXPECT_TRUE(Succeeded(Put("new")));
+    }
+    EXPECT_EQ(Pasted(), "new");
+}
+
+TEST(Win32Clipboard, AProgramThatNeverLetsGoIsNoReasonToHang) {
+    EXPECT_TRUE(Succeeded(Put("old")));
+    {
+        const Holder holder(60'000);
+        const auto before = std::chrono::steady_clock::now();
+        EXPECT_TRUE(FailedWith(Put("new"), FileError::InUse));
+        EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(5));
+    }
+    EXPECT_EQ(Pasted(), "old");
+    EXPECT_TRUE(Succeeded(Put("new")));
+    EXPECT_EQ(Pasted(), "new");
+}
+
+}  // namespace zentar

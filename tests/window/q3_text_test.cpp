@@ -1,0 +1,282 @@
+// The designer of coloured texts.
+#include <gtest/gtest.h>
+
+#include "tests/window/commands_fixture.h"
+#include "tests/window/file_dialog.h"
+#include "tests/window/screen_picture.h"
+#include "tests/window/text_conversion.h"
+#include "tests/window/user_input.h"
+#include "tests/window/waiting.h"
+#include "tests/window/windows_of.h"
+#include "ui/resource.h"
+
+namespace zentar::window_tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kQ3TextTab = 3;
+
+// Puts bytes on the clipboard as that format.
+void PutOnClipboard(UINT format, const std::string& bytes) {
+    Eventually([] { return OpenClipboard(nullptr) != FALSE; });
+    EmptyClipboard();
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size() + 2);
+    auto* const to = static_cast<char*>(GlobalLock(memory));
+    std::copy(bytes.begin(), bytes.end(), to);
+    to[bytes.size()] = to[bytes.size() + 1] = '\0';
+    GlobalUnlock(memory);
+    SetClipboardData(format, memory);
+    CloseClipboard();
+}
+
+std::string TextOnClipboard() {
+    if (!OpenClipboard(nullptr)) {
+        return {};
+    }
+    std::string text;
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    if (memory != nullptr) {
+        text = Narrow(static_cast<const wchar_t*>(GlobalLock(memory)));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+}
+
+class Q3Text : public CommandsTest {
+  protected:
+    ZentarDriver& Open(const IniLines& settings = {}) {
+        return CommandsTest::Open(kQ3TextTab, settings);
+    }
+
+    // Types into the editor, which gets the focus.
+    void TypeText(const std::string& text) const {
+        zentar_->ClickOn(IDC_rtbQ3Text);
+        Type(text);
+        zentar_->Settle();
+    }
+
+    // Selects so many characters at the end of the text.
+    void SelectLast(int count) const {
+        Press(VK_END);
+        for (int i = 0; i < count; ++i) {
+            PressWith(VK_SHIFT, VK_LEFT);
+        }
+        zentar_->Settle();
+    }
+
+    std::string Code() const { return zentar_->Text(IDC_txtQ3TextCode); }
+    std::string Edited() const { return zentar_->Text(IDC_rtbQ3Text); }
+    fs::path Designs() const { return home_.Program() / "data/q3text"; }
+    fs::path Config() const { return home_.Games() / "Quake3/baseq3/q3config.cfg"; }
+};
+
+TEST_F(Q3Text, TheCodeFollowsWhatIsTypedAndColoured) {
+    const ZentarDriver& zentar = Open();
+    EXPECT_EQ(Code(), "seta name \"^^0^7\"");
+    for (const int button : {IDC_cmdQ3TextSave, IDC_cmdQ3TextClipboard, IDC_cmdQ3TextQ3Config}) {
+        EXPECT_FALSE(zentar.Usable(button));
+    }
+    TypeText("Fox");
+    EXPECT_SOON(Code(), "seta name \"^^0Fox^7\"");
+    for (const int button : {IDC_cmdQ3TextSave, IDC_cmdQ3TextClipboard, IDC_cmdQ3TextQ3Config}) {
+        EXPECT_TRUE(zentar.Usable(button));
+    }
+    SelectLast(2);
+    zentar.ClickOn(IDC_cmdQ3TextWhite);
+    EXPECT_SOON(Code(), "seta name \"^^0F^7ox\"");
+    // The editor has the keyboard again, and nothing is selected that typing would replace.
+    EXPECT_TRUE(zentar.GetsFocus(IDC_rtbQ3Text));
+    Type("y");
+    EXPECT_SOON(Edited().size(), 4U);
+    SelectLast(1);
+    zentar.ClickOn(IDC_cmdQ3TextRed);
+    EXPECT_SOON(Code().find("^1") != std::string::npos, true);
+}
+
+TEST_F(Q3Text, TheColourForWhatIsTypedNextCanBeChosen) {
+    const ZentarDriver& zentar = Open();
+    zentar.ClickOn(IDC_cmdQ3TextYellow);
+    EXPECT_SOON(Code(), "seta name \"^3^7\"");
+    TypeText("ab");
+    EXPECT_SOON(Code(), "seta name \"^3ab^7\"");
+    zentar.ClickOn(IDC_cmdQ3TextCyan);
+    Type("c");
+    EXPECT_SOON(Code(), "seta name \"^3ab^5c^7\"");
+}
+
+TEST_F(Q3Text, ADoubleQuoteBecomesAnApostropheAndTheCaretStays) {
+    Open();
+    TypeText("ab");
+    Press(VK_LEFT);
+    Type("\"x");
+    EXPECT_SOON(Edited(), "a'xb");
+    EXPECT_SOON(Code(), "seta name \"^^0a'xb^7\"");
+}
+
+TEST_F(Q3Text, UndoTakesBackAColour) {
+    const ZentarDriver& zentar = Open();
+    TypeText("ab");
+    SelectLast(1);
+    zentar.ClickOn(IDC_cmdQ3TextGreen);
+    EXPECT_SOON(Code(), "seta name \"^^0a^2b^7\"");
+    PressWith(VK_CONTROL, 'Z');
+    EXPECT_SOON(Code(), "seta name \"^^0ab^7\"");
+}
+
+TEST_F(Q3Text, TypesAndOptionsChangeTheCode) {
+    const ZentarDriver& zentar = Open();
+    TypeText("hi");
+    zentar.ClickOn(IDC_optQ3TextServer);
+    EXPECT_SOON(Code(), "seta sv_hostname \"^0hi^7\"");
+    zentar.ClickOn(IDC_optQ3TextPublic);
+    EXPECT_SOON(Code(), "bind pause \"say ^0hi^7\"");
+    zentar.ClickOn(IDC_optQ3TextTeam);
+    EXPECT_SOON(Code(), "bind pause \"say_team ^0hi^7\"");
+    zentar.ClickOn(IDC_optQ3TextAttacker);
+    EXPECT_SOON(Code(), "bind pause \"tell_attacker ^0hi^7\"");
+    zentar.ClickOn(IDC_optQ3TextTarget);
+    EXPECT_SOON(Code(), "bind pause \"tell_target ^0hi^7\"");
+    zentar.ClickOn(IDC_chkQ3TextKeyfox);
+    EXPECT_SOON(Code(), "tell_target ^0hi^7");
+    zentar.ClickOn(IDC_chkQ3TextOSP);
+    EXPECT_SOON(Code(), "tell_target ^8hi^7");
+    EXPECT_EQ(zentar_->Close(), 0);
+    EXPECT_NE(ReadBytes(home_.Ini()).find("\r\nQ3TextType=5\r\nQ3TextKeyfox=1\r\nQ3TextOSP=1\r\n"),
+              std::string::npos);
+}
+
+TEST_F(Q3Text, RichTextIsPastedWithItsColoursAlone) {
+    Open();
+    PutOnClipboard(RegisterClipboardFormatW(L"Rich Text Format"),
+                   R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}{\colortbl;\red255\green0\blue0;)"
+                   R"(\red18\green52\blue86;}{\object\objemb{\*\objdata 0105}{\result \cf1 X}})"
+                   R"(\f0\fs96\cf1 ab\cf2 cde\par})");
+    TypeText("");
+    PressWith(VK_CONTROL, 'V');
+    EXPECT_SOON(Code().find("^1") != std::string::npos, true);
+    EXPECT_SOON(Code().ends_with("abde^7\""), true);
+    PressWith(VK_CONTROL, 'Z');
+    EXPECT_SOON(Edited(), "");
+}
+
+TEST_F(Q3Text, ADesignIsSavedAndOpenedAgain) {
+    ZentarDriver& zentar = Open();
+    TypeText("a/b:c");
+    SelectLast(1);
+    zentar.ClickOn(IDC_cmdQ3TextBlue);
+    zentar.ClickOn(IDC_cmdQ3TextSave);
+    const HWND save = WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text");
+    EXPECT_TRUE(OfferedName(save).starts_with("a[FS]b[C]c"));
+    EXPECT_EQ(KindsIn(save), Lines{"Quake 3 coloured text (*.ini)"});
+    TakePicture(save, "save dialog");
+    ChooseFile(save, "design");
+    EXPECT_SOON(fs::exists(Designs() / "design.ini"), true);
+    zentar.Settle();
+    const std::string saved = ReadBytes(Designs() / "design.ini");
+    EXPECT_EQ(saved.find("{\\rtf1"), 0U);
+    TypeText("more");
+    zentar.ClickOn(IDC_cmdQ3TextOpen);
+    const HWND open = WaitForFileDialog(zentar.Process(), "Open Quake 3 coloured text");
+    EXPECT_SOON(FilesListed(open), Lines{"design.ini"});
+    ChooseFile(open, "design.ini");
+    EXPECT_SOON(Code(), "seta name \"^^0a/b:^4c^7\"");
+    EXPECT_EQ(zentar.Close(), 0);
+    EXPECT_NE(ReadBytes(home_.Ini())
+                  .find("\r\nQ3TextText=" +
+                        Narrow((Designs() / "design.ini").make_preferred().wstring()) + "\r\n"),
+              std::string::npos);
+    // The next start shows it again.
+    zentar_ = std::make_unique<ZentarDriver>(home_);
+    zentar_->ShowTab(kQ3TextTab);
+    EXPECT_SOON(Code(), "seta name \"^^0a/b:^4c^7\"");
+    EXPECT_SOON(Edited(), "a/b:c");
+}
+
+TEST_F(Q3Text, SavingOverADesignAsks) {
+    const ZentarDriver& zentar = Open();
+    fs::create_directories(Designs());
+    const fs::path design = Designs() / "old.ini";
+    WriteBytes(design, "old");
+    MakeReadOnly(design);
+    TypeText("new");
+    const auto save = [&] {
+        zentar.ClickOn(IDC_cmdQ3TextSave);
+        ChooseFile(WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text"), "old.ini");
+    };
+    const BoxContents overwrite =
+        Question({"Really overwrite the existing \"old\" coloured text file?"});
+    const BoxContents readOnly =
+        FailureWithQuestion({"Couldn't overwrite the file due to it being set as read-only.",
+                             "Would you like me to remove this setting to force the overwrite?"});
+    save();
+    Answer(overwrite, IDNO);
+    save();
+    Answer(overwrite, IDYES);
+    Answer(readOnly, IDNO);
+    EXPECT_EQ(ReadBytes(design), "old");
+    save();
+    Answer(overwrite, IDYES);
+    Answer(readOnly, IDYES);
+    EXPECT_SOON(ReadBytes(design).starts_with("{\\rtf1"), true);
+}
+
+TEST_F(Q3Text, TheCodeGoesToTheClipboard) {
+    const ZentarDriver& zentar = Open();
+    TypeText("Fox");
+    PutOnClipboard(CF_UNICODETEXT, {});
+    const BoxContents question = Question({"Really copy the code to the Windows clipboard?"});
+    zentar.ClickOn(IDC_cmdQ3TextClipboard);
+    Answer(question, IDNO);
+    EXPECT_EQ(TextOnClipboard(), "");
+    zentar.ClickOn(IDC_cmdQ3TextClipboard);
+    Answer(question, IDYES);
+    EXPECT_SOON(TextOnClipboard(), "seta name \"^^0Fox^7\"");
+    zentar.ClickOn(IDC_chkQ3TextAddSlash);
+    zentar.ClickOn(IDC_cmdQ3TextClipboard);
+    Answer(question, IDYES);
+    EXPECT_SOON(TextOnClipboard(), "\\seta name \"^^0Fox^7\"");
+}
+
+TEST_F(Q3Text, TheCodeIsAddedToTheConfigWhateverTheGame) {
+    const ZentarDriver& zentar = Open({"Game=Quake1"});
+    TypeText("Fox");
+    const std::string config = ReadBytes(Config());
+    const BoxContents question = Question({"Really add the code to \"q3config.cfg\" ?"});
+    zentar.ClickOn(IDC_cmdQ3TextQ3Config);
+    Answer(question, IDNO);
+    EXPECT_EQ(ReadBytes(Config()), config);
+    MakeReadOnly(Config());
+    zentar.ClickOn(IDC_cmdQ3TextQ3Config);
+    Answer(question, IDYES);
+    Answer(
+        FailureWithQuestion({"Couldn't add to \"q3config.cfg\" due to it being set as read-only.",
+                             "Would you like me to remove this setting to force the addition?"}),
+        IDYES);
+    EXPECT_SOON(ReadBytes(Config()), config + "seta name \"^^0Fox^7\"\r\n");
+    fs::remove(Config());
+    zentar.ClickOn(IDC_cmdQ3TextQ3Config);
+    Answer(Failure({"There is no \"q3config.cfg\" file to add to!", "",
+                    "For some strange reason, this file doesn't currently exist.",
+                    "You should start Quake 3 so that it can create this file,",
+                    "and then come back and select this option again."}),
+           IDOK);
+}
+
+TEST_F(Q3Text, TheCurrentDesignIsThereFromTheStart) {
+    fs::create_directories(Designs());
+    WriteBytes(Designs() / "current.ini",
+               R"({\rtf1\ansi{\colortbl;\red255\green0\blue255;\red255\green255\blue255;})"
+               R"(\cf1 Mag\cf2 ic\par})");
+    const ZentarDriver& zentar = Open();
+    EXPECT_SOON(Code(), "seta name \"^6Mag^7ic\"");
+    zentar.ClickOn(IDC_rtbQ3Text);
+    TakePicture(zentar.Main(), "design");
+    Press(VK_END);
+    Type("!");
+    EXPECT_SOON(Code(), "seta name \"^6Mag^7ic!\"");
+}
+
+}  // namespace
+}  // namespace zentar::window_tests
