@@ -49,12 +49,16 @@ HWND RichTextUser::Editor() const { return FindControlWindow(Top(), kRich); }
 
 void RichTextUser::Settle() {
     constexpr DWORD kQuietMilliseconds = 60;
+    // Some systems' visual styles never come to rest.
+    constexpr DWORD kLongest = 2000;
+    const DWORD start = GetTickCount();
     do {
         ThePlatform().Services().windows.PumpPending();
         MSG quit{};
         PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    } while (MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
-             WAIT_TIMEOUT);
+    } while (GetTickCount() - start < kLongest &&
+             MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
+                 WAIT_TIMEOUT);
 }
 
 void RichTextUser::SelectText(LONG from, LONG to) const { SetSelection(Editor(), {from, to}); }
