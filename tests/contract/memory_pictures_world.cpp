@@ -15,7 +15,7 @@ class MemoryPicturesWorld : public PicturesWorld {
     }
 
     Pictures& TheSystem() override { return platform_.pictures; }
-    ImageLibrary& Library() override { return platform_.images; }
+    ImageLibrary& Images() override { return platform_.images; }
     void PlaceLibrary(bool there) override {
         if (there) {
             platform_.files.AddFile(kLibrary, "library");

@@ -57,31 +57,31 @@ TEST_P(PicturesContract, AnEncodedPictureIsDecodedAgain) {
 }
 
 TEST_P(PicturesContract, TheLibraryIsPresentWhileItsFileIsThere) {
-    EXPECT_FALSE(World().Library().Present());
+    EXPECT_FALSE(World().Images().Present());
     World().PlaceLibrary(true);
-    EXPECT_TRUE(World().Library().Present());
+    EXPECT_TRUE(World().Images().Present());
     World().PlaceLibrary(false);
-    EXPECT_FALSE(World().Library().Present());
+    EXPECT_FALSE(World().Images().Present());
     World().PlaceLibrary(true);
-    EXPECT_TRUE(World().Library().Present());
+    EXPECT_TRUE(World().Images().Present());
 }
 
 TEST_P(PicturesContract, AFileThatIsNoLibraryIsNone) {
     World().PlaceBrokenLibrary();
-    EXPECT_FALSE(World().Library().Present());
+    EXPECT_FALSE(World().Images().Present());
 }
 
 TEST_P(PicturesContract, TheCurrentImageIsTheOneLoadedLast) {
     World().PlaceLibrary(true);
-    const BitmapPtr first = World().Library().Load(WritePicture("a.tga", {40, 30}));
-    const BitmapPtr second = World().Library().Load(WritePicture("b.pcx", {20, 10}));
+    const BitmapPtr first = World().Images().Load(WritePicture("a.tga", {40, 30}));
+    const BitmapPtr second = World().Images().Load(WritePicture("b.pcx", {20, 10}));
     ASSERT_NE(first, nullptr);
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(first->Dimensions(), (Size{40, 30}));
     EXPECT_EQ(second->Dimensions(), (Size{20, 10}));
     const std::string saved = World().Folder() + "saved.jpg";
-    ASSERT_TRUE(World().Library().SaveAsJpg(80, saved));
-    const BitmapPtr again = World().Library().Load(saved);
+    ASSERT_TRUE(World().Images().SaveAsJpg(80, saved));
+    const BitmapPtr again = World().Images().Load(saved);
     ASSERT_NE(again, nullptr);
     EXPECT_EQ(again->Dimensions(), (Size{20, 10}));
 }
@@ -89,12 +89,12 @@ TEST_P(PicturesContract, TheCurrentImageIsTheOneLoadedLast) {
 TEST_P(PicturesContract, AFileThatIsNoImageLeavesNoCurrentOne) {
     World().PlaceLibrary(true);
     const std::string saved = World().Folder() + "saved.jpg";
-    EXPECT_FALSE(World().Library().SaveAsJpg(80, saved));
+    EXPECT_FALSE(World().Images().SaveAsJpg(80, saved));
     for (const std::string& bad :
          {Write("bad.tga", "no image"), Write("empty.pcx", ""), World().Folder() + "missing.tga"}) {
-        ASSERT_NE(World().Library().Load(WritePicture("good.tga", {4, 3})), nullptr);
-        EXPECT_EQ(World().Library().Load(bad), nullptr) << bad;
-        EXPECT_FALSE(World().Library().SaveAsJpg(80, saved)) << bad;
+        ASSERT_NE(World().Images().Load(WritePicture("good.tga", {4, 3})), nullptr);
+        EXPECT_EQ(World().Images().Load(bad), nullptr) << bad;
+        EXPECT_FALSE(World().Images().SaveAsJpg(80, saved)) << bad;
     }
     EXPECT_FALSE(World().Files().Info(saved).Ok());
 }
@@ -103,17 +103,17 @@ TEST_P(PicturesContract, AJpgReplacesTheWholeFileThatWasThere) {
     World().PlaceLibrary(true);
     const std::string fresh = World().Folder() + "fresh.jpg";
     const std::string old = Write("old.jpg", std::string(50'000, 'x'));
-    ASSERT_NE(World().Library().Load(WritePicture("a.tga", {8, 8})), nullptr);
-    ASSERT_TRUE(World().Library().SaveAsJpg(80, fresh));
-    ASSERT_TRUE(World().Library().SaveAsJpg(80, old));
+    ASSERT_NE(World().Images().Load(WritePicture("a.tga", {8, 8})), nullptr);
+    ASSERT_TRUE(World().Images().SaveAsJpg(80, fresh));
+    ASSERT_TRUE(World().Images().SaveAsJpg(80, old));
     EXPECT_GT(LengthOf(fresh), 0U);
     EXPECT_EQ(LengthOf(old), LengthOf(fresh));
 }
 
 TEST_P(PicturesContract, AJpgThatCannotBeWrittenIsToldOf) {
     World().PlaceLibrary(true);
-    ASSERT_NE(World().Library().Load(WritePicture("a.tga", {8, 8})), nullptr);
-    EXPECT_FALSE(World().Library().SaveAsJpg(80, World().Folder() + "no such folder\\a.jpg"));
+    ASSERT_NE(World().Images().Load(WritePicture("a.tga", {8, 8})), nullptr);
+    EXPECT_FALSE(World().Images().SaveAsJpg(80, World().Folder() + "no such folder\\a.jpg"));
 }
 
 }  // namespace zentar

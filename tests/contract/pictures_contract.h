@@ -16,7 +16,7 @@ class PicturesWorld {
   public:
     virtual ~PicturesWorld() = default;
     virtual Pictures& TheSystem() = 0;
-    virtual ImageLibrary& Library() = 0;
+    virtual ImageLibrary& Images() = 0;
     // Puts the library's file where it is looked for, or takes it away.
     virtual void PlaceLibrary(bool there) = 0;
     // Puts a file there that is no library.

@@ -17,7 +17,7 @@ class Win32PicturesWorld : public PicturesWorld {
     ~Win32PicturesWorld() override { library_.reset(); }
 
     Pictures& TheSystem() override { return ThePlatform().Services().pictures; }
-    ImageLibrary& Library() override { return *library_; }
+    ImageLibrary& Images() override { return *library_; }
     // A library that is in use can be renamed, but not deleted.
     void PlaceLibrary(bool there) override {
         const fs::path file = folder_.Path() / "nviewlib.dll";
