@@ -23,7 +23,7 @@
 #include "benchmarks/posix_file_system.h"
 #include "benchmarks/ratio_reporter.h"
 #include "benchmarks/repeated_file.h"
-#include "benchmarks/sample_logs.h"
+#include "benchmarks/large_log.h"
 #include "transcripts/console_lines.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/transcript_writer.h"

@@ -1,6 +1,8 @@
 // Pictures of everything the user sees, and that they could be taken.
 #include <gtest/gtest.h>
 
+#include "tests/window/colour_dialog.h"
+#include "tests/window/file_dialog.h"
 #include "tests/window/screen_picture.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
@@ -80,6 +82,40 @@ TEST(Pictures, OfScreenshots) {
     zentar.Settle();
     EXPECT_GT(TakePicture(rename, "rename shot"), kSmallestPicture);
     Press(VK_ESCAPE);
+}
+
+TEST(Pictures, OfChatAndColouredText) {
+    const ZentarHome home;
+    const std::filesystem::path designs = home.Program() / "data" / "q3text";
+    std::filesystem::create_directories(designs);
+    WriteBytes(designs / "current.ini",
+               R"({\rtf1\ansi{\colortbl;\red255\green0\blue0;\red255\green255\blue0;)"
+               R"(\red255\green255\blue255;\red0\green255\blue0;\red0\green255\blue255;)"
+               R"(\red0\green0\blue255;\red255\green0\blue255;}[\cf1 E\cf2 m\cf3 ber\cf0 ] )"
+               R"(\cf4 the \cf5 quick \cf6 blue \cf7 fox\par})");
+    home.WriteIni({"TranscriptBackground=12648447", "TranscriptMessages=8388608",
+                   "Player1Name=Fred", "Player1Colour=32768", "Player2Name=Bob <3",
+                   "Player2Colour=128", "Player3Name=Fragger", "TranscriptGameplay=1"});
+    const ZentarDriver zentar(home);
+    zentar.ShowTab(2);
+    EXPECT_GT(TakePicture(zentar.Main(), "chat"), kSmallestPicture);
+    DoubleClick(CentreOf(zentar.Control(IDC_txtPlayer1)));
+    const HWND colours = WaitForColourDialog(zentar.Process());
+    zentar.Settle();
+    EXPECT_GT(TakePicture(colours, "colour dialog"), kSmallestPicture);
+    CancelColourDialog(colours);
+    zentar.ShowTab(3);
+    EXPECT_GT(TakePicture(zentar.Main(), "design"), kSmallestPicture);
+    zentar.ClickOn(IDC_cmdQ3TextSave);
+    const HWND save = WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(save, "save dialog"), kSmallestPicture);
+    CancelFileDialog(save);
+    zentar.ClickOn(IDC_cmdQ3TextOpen);
+    const HWND open = WaitForFileDialog(zentar.Process(), "Open Quake 3 coloured text");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(open, "open dialog"), kSmallestPicture);
+    CancelFileDialog(open);
 }
 
 }  // namespace

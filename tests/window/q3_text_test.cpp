@@ -1,9 +1,9 @@
 // The designer of coloured texts.
 #include <gtest/gtest.h>
 
+#include "tests/contract/win32/clipboard_content.h"
 #include "tests/window/commands_fixture.h"
 #include "tests/window/file_dialog.h"
-#include "tests/window/screen_picture.h"
 #include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
@@ -16,33 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kQ3TextTab = 3;
-
-// Puts bytes on the clipboard as that format.
-void PutOnClipboard(UINT format, const std::string& bytes) {
-    Eventually([] { return OpenClipboard(nullptr) != FALSE; });
-    EmptyClipboard();
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size() + 2);
-    auto* const to = static_cast<char*>(GlobalLock(memory));
-    std::copy(bytes.begin(), bytes.end(), to);
-    to[bytes.size()] = to[bytes.size() + 1] = '\0';
-    GlobalUnlock(memory);
-    SetClipboardData(format, memory);
-    CloseClipboard();
-}
-
-std::string TextOnClipboard() {
-    if (!OpenClipboard(nullptr)) {
-        return {};
-    }
-    std::string text;
-    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
-    if (memory != nullptr) {
-        text = Narrow(static_cast<const wchar_t*>(GlobalLock(memory)));
-        GlobalUnlock(memory);
-    }
-    CloseClipboard();
-    return text;
-}
 
 class Q3Text : public CommandsTest {
   protected:
@@ -149,10 +122,11 @@ TEST_F(Q3Text, TypesAndOptionsChangeTheCode) {
 
 TEST_F(Q3Text, RichTextIsPastedWithItsColoursAlone) {
     Open();
-    PutOnClipboard(RegisterClipboardFormatW(L"Rich Text Format"),
-                   R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}{\colortbl;\red255\green0\blue0;)"
-                   R"(\red18\green52\blue86;}{\object\objemb{\*\objdata 0105}{\result \cf1 X}})"
-                   R"(\f0\fs96\cf1 ab\cf2 cde\par})");
+    EXPECT_TRUE(PutOnClipboard(
+        {.rtf = R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}{\colortbl;\red255\green0\blue0;)"
+                R"(\red18\green52\blue86;}{\object\objemb{\*\objdata 0105}{\result \cf1 X}})"
+                R"(\f0\fs96\cf1 ab\cf2 cde\par})",
+         .text = {}}));
     TypeText("");
     PressWith(VK_CONTROL, 'V');
     EXPECT_SOON(Code().find("^1") != std::string::npos, true);
@@ -170,7 +144,6 @@ TEST_F(Q3Text, ADesignIsSavedAndOpenedAgain) {
     const HWND save = WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text");
     EXPECT_TRUE(OfferedName(save).starts_with("a[FS]b[C]c"));
     EXPECT_EQ(KindsIn(save), Lines{"Quake 3 coloured text (*.ini)"});
-    TakePicture(save, "save dialog");
     ChooseFile(save, "design");
     EXPECT_SOON(fs::exists(Designs() / "design.ini"), true);
     zentar.Settle();
@@ -225,18 +198,18 @@ TEST_F(Q3Text, SavingOverADesignAsks) {
 TEST_F(Q3Text, TheCodeGoesToTheClipboard) {
     const ZentarDriver& zentar = Open();
     TypeText("Fox");
-    PutOnClipboard(CF_UNICODETEXT, {});
+    EXPECT_TRUE(PutOnClipboard({}));
     const BoxContents question = Question({"Really copy the code to the Windows clipboard?"});
     zentar.ClickOn(IDC_cmdQ3TextClipboard);
     Answer(question, IDNO);
-    EXPECT_EQ(TextOnClipboard(), "");
+    EXPECT_EQ(Narrow(OnClipboard().text), "");
     zentar.ClickOn(IDC_cmdQ3TextClipboard);
     Answer(question, IDYES);
-    EXPECT_SOON(TextOnClipboard(), "seta name \"^^0Fox^7\"");
+    EXPECT_SOON(Narrow(OnClipboard().text), "seta name \"^^0Fox^7\"");
     zentar.ClickOn(IDC_chkQ3TextAddSlash);
     zentar.ClickOn(IDC_cmdQ3TextClipboard);
     Answer(question, IDYES);
-    EXPECT_SOON(TextOnClipboard(), "\\seta name \"^^0Fox^7\"");
+    EXPECT_SOON(Narrow(OnClipboard().text), "\\seta name \"^^0Fox^7\"");
 }
 
 TEST_F(Q3Text, TheCodeIsAddedToTheConfigWhateverTheGame) {
@@ -272,7 +245,6 @@ TEST_F(Q3Text, TheCurrentDesignIsThereFromTheStart) {
     const ZentarDriver& zentar = Open();
     EXPECT_SOON(Code(), "seta name \"^6Mag^7ic\"");
     zentar.ClickOn(IDC_rtbQ3Text);
-    TakePicture(zentar.Main(), "design");
     Press(VK_END);
     Type("!");
     EXPECT_SOON(Code(), "seta name \"^6Mag^7ic!\"");

@@ -7,11 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_text.h"
 #include "platform/window_services.h"
 #include "tests/contract/file_system_contract.h"
 #include "tests/contract/win32/clipboard_content.h"
+#include "tests/contract/win32/clipboard_holder.h"
 #include "tests/contract/win32/the_platform.h"
 
 namespace zentar {
@@ -22,38 +22,6 @@ Status Put(const std::string& text) {
 }
 
 std::string Pasted() { return Narrow(OnClipboard().text); }
-
-// Another program that has the clipboard open, for so long or until this goes.
-class Holder {
-  public:
-    explicit Holder(DWORD milliseconds) : thread_([this, milliseconds] { Hold(milliseconds); }) {
-        WaitForSingleObject(opened_, INFINITE);
-        EXPECT_TRUE(holds_);
-    }
-    ~Holder() {
-        SetEvent(released_);
-        thread_.join();
-        CloseHandle(opened_);
-        CloseHandle(released_);
-    }
-    Holder(const Holder&) = delete;
-    Holder& operator=(const Holder&) = delete;
-
-  private:
-    void Hold(DWORD milliseconds) {
-        const UniqueWindow window(CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0,
-                                                  HWND_MESSAGE, nullptr, nullptr, nullptr));
-        holds_ = OpenClipboard(window.Get()) != FALSE;
-        SetEvent(opened_);
-        WaitForSingleObject(released_, milliseconds);
-        CloseClipboard();
-    }
-
-    bool holds_ = false;
-    HANDLE opened_ = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    HANDLE released_ = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    std::thread thread_;  // the last, as it uses the others
-};
 
 }  // namespace
 
@@ -85,7 +53,7 @@ TEST(Win32Clipboard, NothingElseIsLeftBesideTheText) {
 TEST(Win32Clipboard, AProgramThatHoldsItForAMomentIsWaitedFor) {
     EXPECT_TRUE(Succeeded(Put("old")));
     {
-        const Holder holder(150);
+        const ClipboardHolder holder(150);
         EXPECT_TRUE(Succeeded(Put("new")));
     }
     EXPECT_EQ(Pasted(), "new");
@@ -94,7 +62,7 @@ TEST(Win32Clipboard, AProgramThatHoldsItForAMomentIsWaitedFor) {
 TEST(Win32Clipboard, AProgramThatNeverLetsGoIsNoReasonToHang) {
     EXPECT_TRUE(Succeeded(Put("old")));
     {
-        const Holder holder(60'000);
+        const ClipboardHolder holder(60'000);
         const auto before = std::chrono::steady_clock::now();
         EXPECT_TRUE(FailedWith(Put("new"), FileError::InUse));
         EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(5));

@@ -7,6 +7,8 @@
 #include <string>
 
 #include "platform/rtf/rtf_reader.h"
+#include "platform/win32/win32_text.h"
+#include "tests/contract/win32/clipboard_holder.h"
 #include "tests/contract/win32/rich_text_user.h"
 #include "tests/contract/win32/win32_user.h"
 
@@ -157,6 +159,20 @@ TEST_F(Win32RichText, WhatIsCopiedHasItsColoursForOtherPrograms) {
     EXPECT_EQ(Changes(), 1);
     PressWith({VK_SHIFT}, VK_INSERT);
     EXPECT_EQ(Box().Content(), Rich({{"ab", kRed}, {"cd", kGreen}}));
+}
+
+// It would be nowhere any more.
+TEST_F(Win32RichText, WhatCannotBeCopiedIsNotCutOut) {
+    Box().SetText("abc");
+    SelectText(1, 3);
+    {
+        const ClipboardHolder other(60'000);
+        SendMessageW(Editor(), WM_CUT, 0, 0);
+        EXPECT_EQ(Box().Text(), "abc");
+    }
+    SendMessageW(Editor(), WM_CUT, 0, 0);
+    EXPECT_EQ(Box().Text(), "a");
+    EXPECT_EQ(Narrow(OnClipboard().text), "bc");
 }
 
 TEST_F(Win32RichText, TextThatOtherProgramsSetIsTextAndNothingElse) {

@@ -1,4 +1,4 @@
-#include "benchmarks/sample_logs.h"
+#include "benchmarks/large_log.h"
 
 #include <filesystem>
 #include <fstream>
