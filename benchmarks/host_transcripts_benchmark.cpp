@@ -20,10 +20,10 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/large_log.h"
 #include "benchmarks/posix_file_system.h"
 #include "benchmarks/ratio_reporter.h"
 #include "benchmarks/repeated_file.h"
-#include "benchmarks/large_log.h"
 #include "transcripts/console_lines.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/transcript_writer.h"

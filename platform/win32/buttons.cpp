@@ -14,7 +14,7 @@ DWORD Wrapping(const ControlRow& row) { return row.rect.height < kTwoLines ? 0 :
 
 bool IsTicked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
-void Tick(HWND button, bool ticked) {
+void TickButton(HWND button, bool ticked) {
     SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0);
 }
 
@@ -24,9 +24,9 @@ DWORD PushStyle(const ControlRow& row) {
 
 }  // namespace
 
-Win32Button::Win32Button(const ControlPlace& place)
-    : ControlBase(
-          place, {L"BUTTON", WS_TABSTOP | WS_GROUP | PushStyle(place.row) | Wrapping(place.row)}) {}
+ControlStyle Win32Button::Style() const {
+    return {L"BUTTON", WS_TABSTOP | WS_GROUP | PushStyle(Row()) | Wrapping(Row())};
+}
 
 void Win32Button::OnCommand(WORD code) {
     if (code == BN_CLICKED) {
@@ -45,18 +45,25 @@ std::optional<LRESULT> Win32Button::OnMessage(UINT message, WPARAM wParam, LPARA
 }
 
 Win32CheckBox::Win32CheckBox(const ControlPlace& place)
-    : ControlBase(place,
-                  {L"BUTTON", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX | Wrapping(place.row)}),
-      known_((place.row.flags & StartsChecked) != 0) {
-    Tick(Handle(), known_);
+    : ControlBase(place), known_((place.row.flags & StartsChecked) != 0) {}
+
+ControlStyle Win32CheckBox::Style() const {
+    return {L"BUTTON", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX | Wrapping(Row())};
 }
+
+void Win32CheckBox::OnMade() { TickButton(Handle(), known_); }
 
 void Win32CheckBox::SetChecked(bool checked) {
-    Tick(Handle(), checked);
-    NoteState();
+    if (Handle() != nullptr) {
+        TickButton(Handle(), checked);
+        NoteState();
+    } else if (known_ != checked) {
+        known_ = checked;
+        Raise(&ControlEvents::click);
+    }
 }
 
-bool Win32CheckBox::Checked() const { return IsTicked(Handle()); }
+bool Win32CheckBox::Checked() const { return Handle() == nullptr ? known_ : IsTicked(Handle()); }
 
 void Win32CheckBox::OnCommand(WORD code) {
     if (code == BN_CLICKED) {
@@ -72,13 +79,29 @@ void Win32CheckBox::NoteState() {
 }
 
 Win32OptionButton::Win32OptionButton(const ControlPlace& place, bool startsRun, OptionGroup& group)
-    : ControlBase(place, {L"BUTTON",
-                          BS_AUTORADIOBUTTON | Wrapping(place.row) | (startsRun ? WS_GROUP : 0)}),
+    : ControlBase(place),
+      startsRun_(startsRun),
+      ticked_((place.row.flags & StartsChecked) != 0),
       group_(group),
-      known_((place.row.flags & StartsChecked) != 0) {
+      known_(ticked_) {
     group_.buttons.push_back(this);
-    Tick(Handle(), known_);
+}
+
+ControlStyle Win32OptionButton::Style() const {
+    return {L"BUTTON", BS_AUTORADIOBUTTON | Wrapping(Row()) | (startsRun_ ? WS_GROUP : 0)};
+}
+
+void Win32OptionButton::OnMade() {
+    TickButton(Handle(), ticked_);
     KeepOneStop();
+}
+
+void Win32OptionButton::Tick(bool ticked) {
+    if (Handle() == nullptr) {
+        ticked_ = ticked;
+    } else {
+        TickButton(Handle(), ticked);
+    }
 }
 
 // The Tab key stops at the selected button alone; with none selected, at the first, or the group
@@ -90,6 +113,9 @@ void Win32OptionButton::KeepOneStop() const {
     const Win32OptionButton* stop =
         selected == group_.buttons.end() ? group_.buttons.front() : *selected;
     for (const Win32OptionButton* option : group_.buttons) {
+        if (option->Handle() == nullptr) {
+            continue;
+        }
         const LONG_PTR style = GetWindowLongPtrW(option->Handle(), GWL_STYLE);
         const LONG_PTR wanted = option == stop ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP};
         if (style != wanted) {
@@ -100,22 +126,24 @@ void Win32OptionButton::KeepOneStop() const {
 
 void Win32OptionButton::SetSelected(bool selected) {
     if (selected) {
-        for (const Win32OptionButton* option : group_.buttons) {
+        for (Win32OptionButton* option : group_.buttons) {
             if (option != this && option->Selected()) {
-                Tick(option->Handle(), false);
+                option->Tick(false);
             }
         }
     }
-    Tick(Handle(), selected);
+    Tick(selected);
     NoteState();
 }
 
-bool Win32OptionButton::Selected() const { return IsTicked(Handle()); }
+bool Win32OptionButton::Selected() const {
+    return Handle() == nullptr ? ticked_ : IsTicked(Handle());
+}
 
 void Win32OptionButton::SetCaptionColour(CaptionColour colour) {
     if (captionColour_ != colour) {
         captionColour_ = colour;
-        InvalidateRect(Handle(), nullptr, TRUE);
+        Redraw(true);
     }
 }
 

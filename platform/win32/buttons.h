@@ -11,11 +11,12 @@ class Win32OptionButton;
 
 class Win32Button : public ControlBase<Button> {
   public:
-    explicit Win32Button(const ControlPlace& place);
+    using ControlBase::ControlBase;
 
     void OnCommand(WORD code) override;
 
   protected:
+    ControlStyle Style() const override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
@@ -26,6 +27,10 @@ class Win32CheckBox : public ControlBase<CheckBox> {
     void SetChecked(bool checked) override;
     bool Checked() const override;
     void OnCommand(WORD code) override;
+
+  protected:
+    ControlStyle Style() const override;
+    void OnMade() override;
 
   private:
     void NoteState();
@@ -51,11 +56,18 @@ class Win32OptionButton : public ControlBase<OptionButton> {
     LRESULT OnNotify(const NMHDR& header) override;
     HBRUSH OnColour(HDC context) override;
 
+  protected:
+    ControlStyle Style() const override;
+    void OnMade() override;
+
   private:
+    void Tick(bool ticked);
     void NoteState();
     void KeepOneStop() const;
     bool CaptionIsColoured() const;
 
+    bool startsRun_;
+    bool ticked_;  // while there is no window
     OptionGroup& group_;
     bool known_ = false;
     CaptionColour captionColour_ = CaptionColour::Normal;

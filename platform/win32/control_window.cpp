@@ -14,11 +14,6 @@ bool StartsVisible(const ControlRow& row) {
     return (row.flags & StartsHidden) == 0 && row.kind != ControlKind::TabPage;
 }
 
-DWORD CommonStyle(const ControlRow& row) {
-    return WS_CHILD | WS_CLIPSIBLINGS | (StartsVisible(row) ? WS_VISIBLE : 0) |
-           ((row.flags & StartsDisabled) != 0 ? WS_DISABLED : 0);
-}
-
 // Where the keyboard could do nothing, it is not to go.
 bool TakesFocus(ControlKind kind) {
     switch (kind) {
@@ -36,16 +31,33 @@ bool TakesFocus(ControlKind kind) {
 
 }  // namespace
 
-ControlWindow::ControlWindow(const ControlPlace& place, const ControlStyle& style)
-    : host_(place.host), row_(place.row), surface_(place.surface) {
-    Attach(CreateWindowExW(style.exStyle, style.windowClass, Widen(row_.caption).c_str(),
-                           CommonStyle(row_) | style.style, place.at.left, place.at.top,
-                           place.at.width, place.at.height, place.parent,
-                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(row_.id)), place.instance,
-                           nullptr));
+ControlWindow::ControlWindow(const ControlPlace& place)
+    : host_(place.host),
+      row_(place.row),
+      instance_(place.instance),
+      surface_(place.surface),
+      unmade_{row_.caption, row_.tooltip, (row_.flags & StartsDisabled) == 0, StartsVisible(row_)} {
 }
 
 ControlWindow::~ControlWindow() { Detach(); }
+
+void ControlWindow::MakeWindow(HWND parent, const Rect& at) {
+    const ControlStyle kind = Style();
+    const DWORD state = (unmade_.visible ? WS_VISIBLE : 0) | (unmade_.enabled ? 0 : WS_DISABLED);
+    const HWND window = CreateWindowExW(
+        kind.exStyle, kind.windowClass, Widen(unmade_.text).c_str(),
+        WS_CHILD | WS_CLIPSIBLINGS | state | kind.style, at.left, at.top, at.width, at.height,
+        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row_.id)), instance_, nullptr);
+    if (window == nullptr) {
+        return;
+    }
+    Attach(window);
+    if (!unmade_.tooltip.empty()) {
+        host_.SetTooltipOf(handle_, unmade_.tooltip);
+    }
+    unmade_ = {};
+    OnMade();
+}
 
 void ControlWindow::Attach(HWND window) {
     handle_ = window;
@@ -62,36 +74,17 @@ void ControlWindow::Detach() {
     }
 }
 
-bool ControlWindow::ReplaceWindow(const ControlStyle& style, const std::function<void()>& prepare) {
-    const HWND former = handle_;
-    const HWND parent = GetParent(former);
-    RECT place{};
-    GetWindowRect(former, &place);
-    MapWindowPoints(HWND_DESKTOP, parent, reinterpret_cast<POINT*>(&place), 2);
-    const DWORD disabled = Enabled() ? 0 : WS_DISABLED;
-    const HWND window = CreateWindowExW(
-        style.exStyle, style.windowClass, L"", WS_CHILD | WS_CLIPSIBLINGS | disabled | style.style,
-        place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row_.id)),
-        reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(former, GWLP_HINSTANCE)), nullptr);
-    if (window == nullptr) {
-        return false;
+HWND ControlWindow::NeedWindow() const {
+    if (handle_ == nullptr) {
+        host_.NeedWindow(row_);
     }
-    const bool visible = Visible();
-    const bool focused = GetFocus() == former;
-    const auto font = static_cast<WPARAM>(Send(WM_GETFONT));
-    Detach();
-    Attach(window);
-    host_.OnControlReplaced(row_, former, window);
-    Send(WM_SETFONT, font, FALSE);
-    prepare();
-    SetWindowPos(window, former, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | (visible ? SWP_SHOWWINDOW : 0));
-    if (focused) {
-        ::SetFocus(window);
+    return handle_;
+}
+
+void ControlWindow::Redraw(bool erase) const {
+    if (handle_ != nullptr) {
+        InvalidateRect(handle_, nullptr, erase);
     }
-    DestroyWindow(former);
-    return true;
 }
 
 // Only a control's window has this procedure. (A property would say it as well, but costs Wine a
@@ -169,6 +162,10 @@ void ControlWindow::SetEnabled(bool enabled) {
     if (enabled == Enabled()) {
         return;
     }
+    if (handle_ == nullptr) {
+        unmade_.enabled = enabled;
+        return;
+    }
     if (!enabled) {
         host_.Focus().Leave(handle_);
     }
@@ -176,11 +173,16 @@ void ControlWindow::SetEnabled(bool enabled) {
 }
 
 bool ControlWindow::Enabled() const {
-    return (GetWindowLongPtrW(handle_, GWL_STYLE) & WS_DISABLED) == 0;
+    return handle_ == nullptr ? unmade_.enabled
+                              : (GetWindowLongPtrW(handle_, GWL_STYLE) & WS_DISABLED) == 0;
 }
 
 void ControlWindow::SetVisible(bool visible) {
     if (visible == Visible()) {
+        return;
+    }
+    if (handle_ == nullptr) {
+        unmade_.visible = visible;
         return;
     }
     if (!visible) {
@@ -190,16 +192,22 @@ void ControlWindow::SetVisible(bool visible) {
 }
 
 bool ControlWindow::Visible() const {
-    return (GetWindowLongPtrW(handle_, GWL_STYLE) & WS_VISIBLE) != 0;
+    return handle_ == nullptr ? unmade_.visible
+                              : (GetWindowLongPtrW(handle_, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
 void ControlWindow::SetText(const std::string& text) {
-    if (Text() != text) {
+    if (handle_ == nullptr) {
+        unmade_.text = text;
+    } else if (Text() != text) {
         SetWindowTextW(handle_, Widen(text).c_str());
     }
 }
 
 std::string ControlWindow::Text() const {
+    if (handle_ == nullptr) {
+        return unmade_.text;
+    }
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle_)) + 1, L'\0');
     const int length = GetWindowTextW(handle_, text.data(), static_cast<int>(text.size()));
     text.resize(static_cast<std::size_t>(length));
@@ -216,6 +224,12 @@ bool ControlWindow::HasFocus() const { return host_.Focus().Has(handle_); }
 
 void ControlWindow::SetTop(int twips) { host_.MoveTop(row_, twips); }
 
-void ControlWindow::SetTooltip(const std::string& text) { host_.SetTooltipOf(handle_, text); }
+void ControlWindow::SetTooltip(const std::string& text) {
+    if (handle_ == nullptr) {
+        unmade_.tooltip = text;
+    } else {
+        host_.SetTooltipOf(handle_, text);
+    }
+}
 
 }  // namespace zentar

@@ -25,8 +25,9 @@ class ControlHost {
     virtual FocusKeeper& Focus() = 0;
     virtual void MoveTop(const ControlRow& row, int twips) = 0;
     virtual void SetTooltipOf(HWND control, const std::string& text) = 0;
-    // The control's window is another one from now on; the former one is about to go.
-    virtual void OnControlReplaced(const ControlRow& row, HWND former, HWND window) = 0;
+    // Makes the window of a control that has none yet, and those of all that stands on the same tab
+    // page.
+    virtual void NeedWindow(const ControlRow& row) = 0;
     // A control's menu is about to be asked for; a popup opens where that came from.
     virtual void NoteMenuRequest(bool byKeyboard) = 0;
     // The program is at work: no control shows a pointer of its own.
@@ -38,8 +39,6 @@ struct ControlPlace {
     ControlHost& host;
     const ControlRow& row;
     HINSTANCE instance = nullptr;
-    HWND parent = nullptr;
-    Rect at{};                              // in pixels, inside the parent
     Surface surface = Surface::WindowFace;  // behind it
 };
 
@@ -50,9 +49,12 @@ struct ControlStyle {
     DWORD exStyle = 0;
 };
 
+// Has no window until it is needed: those of a tab page that nobody has looked at yet only cost
+// time when the program starts. Until then the control keeps what the program makes of it, as far
+// as it can; for the rest the window is made.
 class ControlWindow {
   public:
-    ControlWindow(const ControlPlace& place, const ControlStyle& style);
+    explicit ControlWindow(const ControlPlace& place);
     ControlWindow(const ControlWindow&) = delete;
     ControlWindow& operator=(const ControlWindow&) = delete;
     virtual ~ControlWindow();
@@ -60,13 +62,18 @@ class ControlWindow {
     // The control whose window that is; null for a window that is no control.
     static ControlWindow* Of(HWND window);
 
+    // The place is in pixels, inside the parent.
+    void MakeWindow(HWND parent, const Rect& at);
+    // Null until it is made.
     HWND Handle() const { return handle_; }
+    // Makes the window where there is none.
+    HWND NeedWindow() const;
     const ControlRow& Row() const { return row_; }
     virtual Control& AsControl() = 0;
     // The surface that the control is for those inside it.
     virtual Surface InnerSurface() const { return surface_; }
 
-    // What the parent is told about the control.
+    // What the parent is told about the control. From here to OnDpi only once there is a window.
     virtual void OnCommand(WORD /*code*/) {}
     virtual LRESULT OnNotify(const NMHDR& /*header*/) { return 0; }
     virtual HBRUSH OnColour(HDC context);
@@ -92,36 +99,45 @@ class ControlWindow {
     void SetTooltip(const std::string& text);
 
   protected:
+    virtual ControlStyle Style() const = 0;
+    // The window is there, but has neither its font nor been seen.
+    virtual void OnMade() {}
     // The control's own messages, before the system's window procedure, which gets those that it
     // does not answer.
     virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     // Gives the system's window procedure a message before OnMessage is done with it.
     LRESULT PassOn(UINT message, WPARAM wParam, LPARAM lParam) const;
 
-    // Puts a window of another kind in the place of the control's: it stands there with the same
-    // number, state and font, and has the focus where the former one had it. `prepare` runs while
-    // it is the control's window already but cannot be seen yet. False, and everything as it was,
-    // when there is no such window.
-    bool ReplaceWindow(const ControlStyle& style, const std::function<void()>& prepare);
-
     void Raise(std::function<void()> ControlEvents::*event);
     void RaiseMenuRequest(bool byKeyboard);
     const ControlEvents& Events() const { return events_; }
     ControlHost& Host() const { return host_; }
+    HINSTANCE Instance() const { return instance_; }
     // During menuRequested: the keyboard asked, so where the pointer is means nothing.
     bool KeyboardAsks() const { return keyboardAsks_; }
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
-        return SendMessageW(handle_, message, wParam, lParam);
+        return SendMessageW(NeedWindow(), message, wParam, lParam);
     }
+    void Redraw(bool erase) const;
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void Attach(HWND window);
     void Detach();
 
+    // What the control is like as long as it has no window.
+    struct Unmade {
+        std::string text;
+        std::string tooltip;
+        bool enabled;
+        bool visible;
+    };
+
     ControlHost& host_;
     const ControlRow& row_;
+    HINSTANCE instance_;
     Surface surface_;
+    Unmade unmade_;
     HWND handle_ = nullptr;
     WNDPROC system_ = nullptr;  // the window procedure of the control's kind
     ControlEvents events_;

@@ -4,19 +4,11 @@
 
 namespace zentar {
 
-void FocusKeeper::AddControl(HWND control, bool getsFirstFocus) {
-    controls_.push_back(control);
-    if (!getsFirstFocus) {
-        lateOnes_.push_back(control);
-    }
-}
-
-void FocusKeeper::ReplaceControl(HWND control, HWND by) {
-    std::replace(controls_.begin(), controls_.end(), control, by);
-    std::replace(lateOnes_.begin(), lateOnes_.end(), control, by);
-    if (remembered_ == control) {
-        remembered_ = by;
-    }
+void FocusKeeper::AddControl(HWND control, std::size_t place, bool getsFirstFocus) {
+    const auto behind =
+        std::upper_bound(stops_.begin(), stops_.end(), place,
+                         [](std::size_t wanted, const Stop& stop) { return wanted < stop.place; });
+    stops_.insert(behind, {control, place, getsFirstFocus});
 }
 
 // A control of a disabled frame, or of a tab page that is not in front, cannot take the focus.
@@ -36,15 +28,16 @@ bool FocusKeeper::IsTabStop(HWND control) const {
 }
 
 HWND FocusKeeper::NextStop(HWND from, bool backwards) const {
-    const auto count = static_cast<std::ptrdiff_t>(controls_.size());
-    const auto at = std::find(controls_.begin(), controls_.end(), from);
-    std::ptrdiff_t index = at - controls_.begin();
-    if (at == controls_.end() && !backwards) {
+    const auto count = static_cast<std::ptrdiff_t>(stops_.size());
+    const auto at = std::find_if(stops_.begin(), stops_.end(),
+                                 [from](const Stop& stop) { return stop.control == from; });
+    std::ptrdiff_t index = at - stops_.begin();
+    if (at == stops_.end() && !backwards) {
         index = -1;
     }
     for (std::ptrdiff_t step = 1; step <= count; ++step) {
         const std::ptrdiff_t next = backwards ? index - step + count : index + step;
-        const HWND control = controls_[static_cast<std::size_t>((next + count) % count)];
+        const HWND control = stops_[static_cast<std::size_t>((next + count) % count)].control;
         if (control != from && IsTabStop(control)) {
             return control;
         }
@@ -53,11 +46,10 @@ HWND FocusKeeper::NextStop(HWND from, bool backwards) const {
 }
 
 HWND FocusKeeper::FirstStop() const {
-    const auto first = std::find_if(controls_.begin(), controls_.end(), [this](HWND control) {
-        return IsTabStop(control) &&
-               std::find(lateOnes_.begin(), lateOnes_.end(), control) == lateOnes_.end();
+    const auto first = std::find_if(stops_.begin(), stops_.end(), [this](const Stop& stop) {
+        return stop.getsFirstFocus && IsTabStop(stop.control);
     });
-    return first == controls_.end() ? NextStop(nullptr, false) : *first;
+    return first == stops_.end() ? NextStop(nullptr, false) : first->control;
 }
 
 void FocusKeeper::Give(HWND control) {

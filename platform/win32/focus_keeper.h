@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace zentar {
@@ -10,12 +11,9 @@ namespace zentar {
 class FocusKeeper {
   public:
     void SetForm(HWND form) { form_ = form; }
-    // The controls in the order of the table, which is the order of the Tab key. The tabs of a tab
-    // control do not get the focus when the form comes up: what the user came for is on the page.
-    void AddControl(HWND control, bool getsFirstFocus);
-
-    // Another window stands where the control was.
-    void ReplaceControl(HWND control, HWND by);
+    // A control and its place in the order of the Tab key. The tabs of a tab control do not get the
+    // focus when the form comes up: what the user came for is on the page.
+    void AddControl(HWND control, std::size_t place, bool getsFirstFocus);
 
     // Whether the control is visible and enabled, and all that it stands in as well.
     bool CanTake(HWND control) const;
@@ -37,14 +35,19 @@ class FocusKeeper {
     bool Restoring() const { return restoring_; }
 
   private:
+    struct Stop {
+        HWND control;
+        std::size_t place;
+        bool getsFirstFocus;
+    };
+
     bool IsTabStop(HWND control) const;
     HWND NextStop(HWND from, bool backwards) const;
     HWND FirstStop() const;
     void Take(HWND control) const;
 
     HWND form_ = nullptr;
-    std::vector<HWND> controls_;
-    std::vector<HWND> lateOnes_;  // those that do not get the first focus
+    std::vector<Stop> stops_;  // by their places
     HWND remembered_ = nullptr;
     bool restoring_ = false;
 };

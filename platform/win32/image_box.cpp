@@ -35,8 +35,9 @@ RECT Fit(Size picture, const RECT& room) {
 }  // namespace
 
 Win32ImageBox::Win32ImageBox(const ControlPlace& place)
-    : ControlBase(place, {PanelClass(place.instance), WS_GROUP}),
-      cursor_(place.instance, place.row.cursor) {}
+    : ControlBase(place), cursor_(place.instance, place.row.cursor) {}
+
+ControlStyle Win32ImageBox::Style() const { return {PanelClass(Instance()), WS_GROUP}; }
 
 void Win32ImageBox::SetImage(BitmapPtr image) {
     if (image == image_) {
@@ -44,10 +45,10 @@ void Win32ImageBox::SetImage(BitmapPtr image) {
     }
     image_ = std::move(image);
     scaled_.reset();
-    InvalidateRect(Handle(), nullptr, FALSE);
+    Redraw(false);
 }
 
-void Win32ImageBox::OnLayout() { InvalidateRect(Handle(), nullptr, FALSE); }
+void Win32ImageBox::OnLayout() { Redraw(false); }
 
 RECT Win32ImageBox::Client() const {
     RECT client{};

@@ -22,6 +22,7 @@ class Win32ImageBox : public ControlBase<ImageBox> {
     void OnDpi(int dpi) override { cursor_.SetDpi(dpi); }
 
   protected:
+    ControlStyle Style() const override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:

@@ -3,19 +3,13 @@
 #include "platform/win32/units.h"
 
 namespace zentar {
-namespace {
-
-DWORD LabelStyle(const ControlRow& row) {
+ControlStyle Win32Label::Style() const {
+    const ControlRow& row = Row();
     // SS_NOTIFY makes the mouse see the label at all, for its tooltip.
     const DWORD alignment = (row.flags & Centred) != 0 ? SS_CENTER : SS_LEFT;
-    return SS_NOPREFIX | SS_NOTIFY | WS_GROUP | alignment |
-           ((row.flags & BreaksWords) != 0 ? SS_EDITCONTROL : 0) |
-           (row.rect.height < kTwoLines ? SS_ENDELLIPSIS : 0);
+    return {L"STATIC", SS_NOPREFIX | SS_NOTIFY | WS_GROUP | alignment |
+                           ((row.flags & BreaksWords) != 0 ? SS_EDITCONTROL : 0) |
+                           (row.rect.height < kTwoLines ? SS_ENDELLIPSIS : 0)};
 }
-
-}  // namespace
-
-Win32Label::Win32Label(const ControlPlace& place)
-    : ControlBase(place, {L"STATIC", LabelStyle(place.row)}) {}
 
 }  // namespace zentar

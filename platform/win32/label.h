@@ -7,7 +7,10 @@ namespace zentar {
 
 class Win32Label : public ControlBase<Label> {
   public:
-    explicit Win32Label(const ControlPlace& place);
+    using ControlBase::ControlBase;
+
+  protected:
+    ControlStyle Style() const override;
 };
 
 }  // namespace zentar

@@ -1,6 +1,7 @@
 #include "platform/win32/list_box.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_text.h"
@@ -27,12 +28,21 @@ std::wstring WideItem(HWND list, int index) {
 }  // namespace
 
 Win32ListBox::Win32ListBox(const ControlPlace& place)
-    : ControlBase(place, {L"LISTBOX",
-                          WS_TABSTOP | WS_GROUP | WS_VSCROLL | WS_HSCROLL | LBS_HASSTRINGS |
-                              LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
-                          WS_EX_CLIENTEDGE}),
+    : ControlBase(place),
       colours_((place.row.flags & StartsGrey) != 0 ? SystemColour::ButtonFace
                                                    : SystemColour::Window) {}
+
+ControlStyle Win32ListBox::Style() const {
+    return {L"LISTBOX",
+            WS_TABSTOP | WS_GROUP | WS_VSCROLL | WS_HSCROLL | LBS_HASSTRINGS | LBS_NOTIFY |
+                LBS_NOINTEGRALHEIGHT,
+            WS_EX_CLIENTEDGE};
+}
+
+void Win32ListBox::OnMade() {
+    Fill(std::exchange(items_, {}));
+    Send(LB_SETCURSEL, static_cast<WPARAM>(selected_));
+}
 
 // The list itself stops to draw by the one call, its scroll bars by the other, which has a price
 // and is of no use while nobody sees the list.
@@ -61,17 +71,27 @@ class Win32ListBox::DrawingStopped {
 };
 
 void Win32ListBox::SetItems(const std::vector<std::string>& items) {
+    if (Handle() == nullptr) {
+        KeepItems(items);
+        return;
+    }
     if (items.empty() && Count() == 0) {
         return;
     }
     const DrawingStopped stopped(*this);
     Fill(items);
+    known_ = -1;
 }
 
 void Win32ListBox::UpdateItems(const std::vector<std::string>& items) {
+    if (Handle() == nullptr) {
+        KeepItems(items);
+        return;
+    }
     const DrawingStopped stopped(*this);
     const LRESULT top = Send(LB_GETTOPINDEX);
     Fill(items);
+    known_ = -1;
     Send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
 }
 
@@ -87,18 +107,38 @@ void Win32ListBox::Fill(const std::vector<std::string>& items) {
         WidenInto(item, wide);
         Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide.c_str()));
     }
-    known_ = -1;
     UpdateWidth();
 }
 
-int Win32ListBox::Count() const { return static_cast<int>(Send(LB_GETCOUNT)); }
+void Win32ListBox::KeepItems(const std::vector<std::string>& items) {
+    items_ = items;
+    selected_ = known_ = -1;
+}
 
-std::string Win32ListBox::Item(int index) const { return Narrow(WideItem(Handle(), index)); }
+int Win32ListBox::Count() const {
+    return static_cast<int>(Handle() == nullptr ? static_cast<LRESULT>(items_.size())
+                                                : Send(LB_GETCOUNT));
+}
 
-int Win32ListBox::SelectedIndex() const { return static_cast<int>(Send(LB_GETCURSEL)); }
+std::string Win32ListBox::Item(int index) const {
+    if (Handle() != nullptr) {
+        return Narrow(WideItem(Handle(), index));
+    }
+    const auto at = static_cast<std::size_t>(index);
+    return at < items_.size() ? items_[at] : std::string();
+}
+
+int Win32ListBox::SelectedIndex() const {
+    return Handle() == nullptr ? selected_ : static_cast<int>(Send(LB_GETCURSEL));
+}
 
 void Win32ListBox::Select(int index) {
-    Send(LB_SETCURSEL, static_cast<WPARAM>(index));
+    if (Handle() == nullptr) {
+        // What is no entry of the list clears the selection, as in the system's.
+        selected_ = index < Count() ? index : -1;
+    } else {
+        Send(LB_SETCURSEL, static_cast<WPARAM>(index));
+    }
     NoteSelection();
 }
 
@@ -129,7 +169,7 @@ void Win32ListBox::SelectAtPointer() {
 
 void Win32ListBox::SetBackground(SystemColour colour) {
     if (colours_.SetBackground(colour)) {
-        InvalidateRect(Handle(), nullptr, TRUE);
+        Redraw(true);
     }
 }
 

@@ -26,15 +26,22 @@ class Win32ListBox : public ControlBase<ListBox> {
     HBRUSH OnColour(HDC context) override;
     void OnLayout() override;
 
+  protected:
+    ControlStyle Style() const override;
+    void OnMade() override;
+
   private:
     void Fill(const std::vector<std::string>& items);
+    void KeepItems(const std::vector<std::string>& items);
     class DrawingStopped;
 
     void NoteSelection();
     int IndexAt(POINT screen) const;
     void UpdateWidth();
 
-    int known_ = -1;  // the selection that the program has been told
+    std::vector<std::string> items_;  // while there is no window
+    int selected_ = -1;               // likewise
+    int known_ = -1;                  // the selection that the program has been told
     TextColours colours_;
     HFONT measuredIn_ = nullptr;
 };

@@ -37,7 +37,7 @@ Win32Frame::Win32Frame(const ControlPlace& place)
 void Win32Frame::SetText(const std::string& text) {
     if (Text() != text) {
         Panel::SetText(text);
-        Redraw();
+        Redraw(true);
     }
 }
 
@@ -46,12 +46,9 @@ void Win32Frame::OnLayout() {
     GetClientRect(Handle(), &client);
     if (client.right != drawn_.cx || client.bottom != drawn_.cy) {
         drawn_ = {client.right, client.bottom};
-        Redraw();
+        Redraw(true);
     }
 }
-
-// Its controls stay as they are: the frame does not paint over them.
-void Win32Frame::Redraw() const { InvalidateRect(Handle(), nullptr, TRUE); }
 
 void Win32Frame::Paint() const {
     PAINTSTRUCT paint{};
@@ -94,7 +91,7 @@ std::optional<LRESULT> Win32Frame::OnMessage(UINT message, WPARAM wParam, LPARAM
             Paint();
             return 0;
         case WM_ENABLE:
-            Redraw();
+            Redraw(true);
             break;
         case WM_SETFONT:
             font_ = reinterpret_cast<HFONT>(wParam);

@@ -17,13 +17,14 @@ template <typename Interface>
 class Panel : public ControlBase<Interface> {
   public:
     Panel(const ControlPlace& place, Surface inner)
-        : ControlBase<Interface>(
-              place, {PanelClass(place.instance), WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}),
-          inner_(inner) {}
+        : ControlBase<Interface>(place), inner_(inner) {}
 
     Surface InnerSurface() const override { return inner_; }
 
   protected:
+    ControlStyle Style() const override {
+        return {PanelClass(this->Instance()), WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+    }
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_ERASEBKGND || message == WM_PRINTCLIENT) {
             RECT client{};
@@ -67,7 +68,6 @@ class Win32Frame : public Panel<Frame> {
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    void Redraw() const;
     void Paint() const;
     void Draw(HDC context) const;
 

@@ -5,8 +5,7 @@
 
 namespace zentar {
 
-Win32Picture::Win32Picture(const ControlPlace& place)
-    : ControlBase(place, {PanelClass(place.instance), WS_GROUP}), instance_(place.instance) {}
+ControlStyle Win32Picture::Style() const { return {PanelClass(Instance()), WS_GROUP}; }
 
 // Each size has its own image in the icon, which looks better than one that is stretched.
 void Win32Picture::OnLayout() {
@@ -16,13 +15,11 @@ void Win32Picture::OnLayout() {
         return;
     }
     size_ = {client.right, client.bottom};
-    icon_.Reset(static_cast<HICON>(LoadImageW(instance_, MAKEINTRESOURCEW(Row().icon), IMAGE_ICON,
+    icon_.Reset(static_cast<HICON>(LoadImageW(Instance(), MAKEINTRESOURCEW(Row().icon), IMAGE_ICON,
                                               size_.cx, size_.cy, LR_DEFAULTCOLOR)));
     grey_ = GreyIcon(icon_.Get(), size_);
-    Redraw();
+    Redraw(false);
 }
-
-void Win32Picture::Redraw() const { InvalidateRect(Handle(), nullptr, FALSE); }
 
 void Win32Picture::Paint() const {
     PAINTSTRUCT paint{};
@@ -65,7 +62,7 @@ std::optional<LRESULT> Win32Picture::OnMessage(UINT message, WPARAM wParam, LPAR
         case WM_ERASEBKGND:
             return TRUE;
         case WM_ENABLE:
-            Redraw();
+            Redraw(false);
             break;
         default:
             break;

@@ -8,21 +8,20 @@ namespace zentar {
 
 class Win32Picture : public ControlBase<Picture> {
   public:
-    explicit Win32Picture(const ControlPlace& place);
+    using ControlBase::ControlBase;
 
     void OnLayout() override;
-    void OnEnclosingEnabled() override { Redraw(); }
+    void OnEnclosingEnabled() override { Redraw(false); }
 
   protected:
+    ControlStyle Style() const override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    void Redraw() const;
     void Paint() const;
     void Draw(HDC context) const;
     bool IsGrey() const;
 
-    HINSTANCE instance_;
     SIZE size_{};
     UniqueIcon icon_;
     UniqueIcon grey_;

@@ -42,16 +42,19 @@ UniqueBitmap CopyForScreen(HWND window, const Win32Bitmap& bitmap) {
 }  // namespace
 
 Win32PictureBox::Win32PictureBox(const ControlPlace& place)
-    : ControlBase(place, {BoxClass(place.instance), WS_TABSTOP | WS_GROUP}),
-      cursor_(place.instance, place.row.cursor) {}
+    : ControlBase(place), cursor_(place.instance, place.row.cursor) {}
+
+ControlStyle Win32PictureBox::Style() const {
+    return {BoxClass(Instance()), WS_TABSTOP | WS_GROUP};
+}
 
 void Win32PictureBox::SetImage(BitmapPtr image) {
     onScreen_.Reset();
     image_ = std::move(image);
     if (image_) {
-        onScreen_ = CopyForScreen(Handle(), Win32Bitmap::Of(*image_));
+        onScreen_ = CopyForScreen(NeedWindow(), Win32Bitmap::Of(*image_));
     }
-    InvalidateRect(Handle(), nullptr, FALSE);
+    Redraw(false);
 }
 
 // At once: a dragged picture that waits until no more mouse messages come lags behind. And without
@@ -64,14 +67,14 @@ void Win32PictureBox::MoveImage(Point to) {
     RECT changed{};
     UnionRect(&changed, &before, &after);
     if (IntersectRect(&changed, &changed, &view)) {
-        const WindowContext context(Handle());
+        const WindowContext context(NeedWindow());
         Draw(context.Get(), changed);
     }
 }
 
 Size Win32PictureBox::View() const {
     RECT client{};
-    GetClientRect(Handle(), &client);
+    GetClientRect(NeedWindow(), &client);
     return {client.right, client.bottom};
 }
 

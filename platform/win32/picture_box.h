@@ -25,6 +25,7 @@ class Win32PictureBox : public ControlBase<PictureBox> {
     void OnDpi(int dpi) override { cursor_.SetDpi(dpi); }
 
   protected:
+    ControlStyle Style() const override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:

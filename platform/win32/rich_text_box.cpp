@@ -63,23 +63,22 @@ class Win32RichTextBox::Busy {
     Win32RichTextBox& box_;
 };
 
-Win32RichTextBox::Win32RichTextBox(const ControlPlace& place)
-    : ControlBase(place,
-                  {L"STATIC", WS_TABSTOP | WS_GROUP | SS_NOPREFIX | SS_NOTIFY, WS_EX_CLIENTEDGE}) {
+Win32RichTextBox::Win32RichTextBox(const ControlPlace& place) : ControlBase(place) {
     Replace({{place.row.caption, kBlack}});
 }
 
-void Win32RichTextBox::NeedEditor() {
-    if (std::exchange(tried_, true)) {
-        return;
-    }
-    const ControlStyle style = RichTextEditor::Style();
-    if (style.windowClass != nullptr) {
-        ReplaceWindow(style, [this] { SetUpEditor(); });
-    }
+ControlStyle Win32RichTextBox::Style() const {
+    const ControlStyle editor = RichTextEditor::Style();
+    return editor.windowClass != nullptr
+               ? editor
+               : ControlStyle{L"STATIC", WS_TABSTOP | WS_GROUP | SS_NOPREFIX | SS_NOTIFY,
+                              WS_EX_CLIENTEDGE};
 }
 
-void Win32RichTextBox::SetUpEditor() {
+void Win32RichTextBox::OnMade() {
+    if (RichTextEditor::Style().windowClass == nullptr) {
+        return;
+    }
     const Busy busy(*this);
     editor_.emplace(Handle());
     ShowBackground();
@@ -127,7 +126,7 @@ void Win32RichTextBox::Replace(const std::vector<ColouredRun>& runs) {
 }
 
 void Win32RichTextBox::ColourSelection(ColourRef colour) {
-    NeedEditor();
+    NeedWindow();
     if (!editor_) {
         return;
     }
@@ -174,7 +173,7 @@ void Win32RichTextBox::ShowBackground() {
         editor_->SetBackground(ShownBackground());
         RedrawBorder();
     } else {
-        InvalidateRect(Handle(), nullptr, TRUE);
+        Redraw(true);
     }
 }
 
@@ -223,14 +222,6 @@ void Win32RichTextBox::OnCommand(WORD code) {
     } else if (code == EN_SETFOCUS && !Host().Focus().Restoring()) {
         Raise(&ControlEvents::gotFocus);
     }
-}
-
-std::optional<LRESULT> Win32RichTextBox::OnUnmadeMessage(UINT message) {
-    if (message != WM_PAINT && message != WM_SETFOCUS) {
-        return std::nullopt;
-    }
-    NeedEditor();
-    return editor_ ? std::optional<LRESULT>(0) : std::nullopt;
 }
 
 // What would make something else of the text than characters and colours.
@@ -327,8 +318,7 @@ std::optional<LRESULT> Win32RichTextBox::OnBorder() const {
 
 std::optional<LRESULT> Win32RichTextBox::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (!editor_) {
-        const std::optional<LRESULT> answer = OnUnmadeMessage(message);
-        return answer ? answer : ControlBase::OnMessage(message, wParam, lParam);
+        return ControlBase::OnMessage(message, wParam, lParam);
     }
     std::optional<LRESULT> answer =
         OnClipboardMessage(message == WM_KEYDOWN ? ClipboardMessage(wParam) : message);

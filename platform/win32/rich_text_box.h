@@ -9,8 +9,8 @@
 
 namespace zentar {
 
-// The system's editor takes so long to load that it is made only when the box first comes into view
-// or gets the focus; until then an empty window stands in its place, and the text is kept here.
+// The system's editor takes long to load; the text is kept here until the control's window is
+// needed, and where the system has none.
 class Win32RichTextBox : public ControlBase<RichTextBox> {
   public:
     explicit Win32RichTextBox(const ControlPlace& place);
@@ -28,13 +28,13 @@ class Win32RichTextBox : public ControlBase<RichTextBox> {
     HBRUSH OnColour(HDC context) override;
 
   protected:
+    ControlStyle Style() const override;
+    void OnMade() override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
     class Busy;
 
-    void NeedEditor();
-    void SetUpEditor();
     void Replace(const std::vector<ColouredRun>& runs);
     void Insert(const std::vector<ColouredRun>& runs);
     bool Copy() const;
@@ -44,16 +44,14 @@ class Win32RichTextBox : public ControlBase<RichTextBox> {
     void ShowBackground();
     void RedrawBorder() const;
     std::optional<LRESULT> OnBorder() const;
-    std::optional<LRESULT> OnUnmadeMessage(UINT message);
     std::optional<LRESULT> OnForbiddenMessage(UINT message, WPARAM wParam) const;
     std::optional<LRESULT> OnClipboardMessage(UINT message);
     std::optional<LRESULT> OnTextMessage(UINT message, LPARAM lParam);
     void OnHandledMessage(UINT message);
 
     std::optional<RichTextEditor> editor_;
-    bool tried_ = false;  // to make the editor
-    RichText content_;    // that the program has been told of; all there is while there's no editor
-    int caret_ = 0;       // while there is no editor
+    RichText content_;  // that the program has been told of; all there is while there's no editor
+    int caret_ = 0;     // while there is no editor
     TextColours colours_{SystemColour::Window};
     int busy_ = 0;          // messages that the editor is handling, and changes by the program
     bool changed_ = false;  // the editor said so; the program has not been told yet

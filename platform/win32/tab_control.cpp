@@ -17,10 +17,9 @@ constexpr int kImageSize = 16;
 
 }  // namespace
 
-Win32TabControl::Win32TabControl(const ControlPlace& place)
-    : ControlBase(place,
-                  {WC_TABCONTROLW, WS_TABSTOP | WS_GROUP | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}),
-      instance_(place.instance) {}
+ControlStyle Win32TabControl::Style() const {
+    return {WC_TABCONTROLW, WS_TABSTOP | WS_GROUP | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+}
 
 void Win32TabControl::AddPage(ControlWindow& page) {
     std::wstring caption = Widen(page.Row().caption);
@@ -30,7 +29,7 @@ void Win32TabControl::AddPage(ControlWindow& page) {
     item.iImage = page.Row().icon == 0 ? -1 : static_cast<int>(pages_.size());
     Send(TCM_INSERTITEMW, pages_.size(), reinterpret_cast<LPARAM>(&item));
     if (pages_.empty()) {
-        ShowWindow(page.Handle(), SW_SHOWNA);
+        page.SetVisible(true);
     }
     pages_.push_back(&page);
 }
@@ -61,13 +60,13 @@ void Win32TabControl::NoteSelection() {
     if (selected == known_ || selected < 0) {
         return;
     }
-    const HWND oldPage =
-        pages_[static_cast<std::size_t>(std::exchange(known_, selected))]->Handle();
-    if (IsChild(oldPage, GetFocus())) {
+    ControlWindow& oldPage = *pages_[static_cast<std::size_t>(std::exchange(known_, selected))];
+    ControlWindow& newPage = *pages_[static_cast<std::size_t>(selected)];
+    if (IsChild(oldPage.Handle(), GetFocus())) {
         SetFocus();
     }
-    ShowWindow(pages_[static_cast<std::size_t>(selected)]->Handle(), SW_SHOWNA);
-    ShowWindow(oldPage, SW_HIDE);
+    ShowWindow(newPage.NeedWindow(), SW_SHOWNA);
+    ShowWindow(oldPage.Handle(), SW_HIDE);
     Raise(&ControlEvents::click);
 }
 
@@ -84,7 +83,7 @@ void Win32TabControl::LoadImages(int dpi) {
     if (std::all_of(icons.begin(), icons.end(), [](int icon) { return icon == 0; })) {
         return;
     }
-    UniqueImageList images = LoadIconStrip(instance_, icons, PixelsOfUnits(kImageSize, dpi));
+    UniqueImageList images = LoadIconStrip(Instance(), icons, PixelsOfUnits(kImageSize, dpi));
     Send(TCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.Get()));
     images_ = std::move(images);
 }

@@ -14,7 +14,7 @@ namespace zentar {
 
 class Win32TabControl : public ControlBase<TabControl> {
   public:
-    explicit Win32TabControl(const ControlPlace& place);
+    using ControlBase::ControlBase;
 
     // Takes a page behind those that are there; the first one is in front.
     void AddPage(ControlWindow& page);
@@ -27,11 +27,13 @@ class Win32TabControl : public ControlBase<TabControl> {
     LRESULT OnNotify(const NMHDR& header) override;
     void OnDpi(int dpi) override;
 
+  protected:
+    ControlStyle Style() const override;
+
   private:
     void NoteSelection();
     void LoadImages(int dpi);
 
-    HINSTANCE instance_;
     std::vector<ControlWindow*> pages_;
     UniqueImageList images_;
     int known_ = 0;  // the tab that the program has been told

@@ -10,22 +10,22 @@ namespace {
 
 constexpr WPARAM kControlA = 1;  // as a character
 
-DWORD TextStyle(const ControlRow& row) {
-    const bool manyLines = (row.flags & ManyLines) != 0;
-    return WS_TABSTOP | WS_GROUP |
-           (manyLines ? ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL) |
-           ((row.flags & ReadOnly) != 0 ? ES_READONLY : 0);
-}
-
 }  // namespace
 
 Win32TextBox::Win32TextBox(const ControlPlace& place)
-    : ControlBase(place, {L"EDIT", TextStyle(place.row), WS_EX_CLIENTEDGE}),
+    : ControlBase(place),
       known_(place.row.caption),
       colours_((place.row.flags & StartsGrey) != 0 ? SystemColour::ButtonFace
-                                                   : SystemColour::Window) {
-    Send(EM_SETLIMITTEXT, 0);
+                                                   : SystemColour::Window) {}
+
+ControlStyle Win32TextBox::Style() const {
+    const DWORD lines = (Row().flags & ManyLines) != 0 ? ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL
+                                                       : ES_AUTOHSCROLL;
+    const DWORD readOnly = (Row().flags & ReadOnly) != 0 ? ES_READONLY : 0;
+    return {L"EDIT", WS_TABSTOP | WS_GROUP | lines | readOnly, WS_EX_CLIENTEDGE};
 }
+
+void Win32TextBox::OnMade() { Send(EM_SETLIMITTEXT, 0); }
 
 void Win32TextBox::SetText(const std::string& text) {
     ControlBase::SetText(text);
@@ -34,20 +34,24 @@ void Win32TextBox::SetText(const std::string& text) {
 
 void Win32TextBox::SelectAll() { Send(EM_SETSEL, 0, -1); }
 
+// Where it stands in a new window.
 void Win32TextBox::PutCaretFirst() {
+    if (Handle() == nullptr) {
+        return;
+    }
     Send(EM_SETSEL, 0, 0);
     Send(EM_SCROLLCARET);
 }
 
 void Win32TextBox::SetForeground(Colour colour) {
     if (colours_.SetForeground(colour)) {
-        InvalidateRect(Handle(), nullptr, TRUE);
+        Redraw(true);
     }
 }
 
 void Win32TextBox::SetBackground(Colour colour) {
     if (colours_.SetBackground(colour)) {
-        InvalidateRect(Handle(), nullptr, TRUE);
+        Redraw(true);
     }
 }
 

@@ -22,6 +22,8 @@ class Win32TextBox : public ControlBase<TextBox> {
     HBRUSH OnColour(HDC context) override;
 
   protected:
+    ControlStyle Style() const override;
+    void OnMade() override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:

@@ -45,16 +45,6 @@ void Tooltips::Set(HWND control, const std::string& text) {
     tips_.erase(tip);
 }
 
-void Tooltips::Replace(HWND control, HWND by) {
-    for (Tip& tip : tips_) {
-        if (tip.control == control) {
-            SendTool(TTM_DELTOOLW, tip);
-            tip.control = by;
-            SendTool(TTM_ADDTOOLW, tip);
-        }
-    }
-}
-
 // Nothing to tell anyone while there is no tip window: it takes all tips once it is made.
 void Tooltips::SendTool(UINT message, const Tip& tip) const {
     if (window_ == nullptr) {

@@ -13,8 +13,6 @@ class Tooltips {
     Tooltips(HWND form, HINSTANCE instance) : form_(form), instance_(instance) {}
     // In the place of what the control had; an empty text is no tooltip.
     void Set(HWND control, const std::string& text);
-    // Another window stands where the control was.
-    void Replace(HWND control, HWND by);
     void SetDpi(int dpi);
     // Shows the tips what the mouse does. (They could look at each control's messages themselves,
     // but that makes a list slow to fill.)

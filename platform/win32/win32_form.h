@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -74,7 +75,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     void SetTooltipOf(HWND control, const std::string& text) override {
         tooltips_->Set(control, text);
     }
-    void OnControlReplaced(const ControlRow& row, HWND former, HWND window) override;
+    void NeedWindow(const ControlRow& row) override;
     void NoteMenuRequest(bool byKeyboard) override { menuByKeyboard_ = byKeyboard; }
     bool ShowsHourglass() const override { return session_.pointer == Pointer::Hourglass; }
 
@@ -82,8 +83,16 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     void CreateFormWindow();
     void CreateControls();
     void CreateControl(const ControlRow& row);
+    const ControlWindow* PageOf(const ControlRow& row) const;
+    void MakeWindow(ControlWindow& control);
+    void SetUp(ControlWindow& control) const;
+    std::size_t IndexOf(const ControlRow& row) const {
+        return static_cast<std::size_t>(&row - rows_.data());
+    }
     std::unique_ptr<ControlWindow> MakeControl(const ControlPlace& place);
     ControlPlace PlaceOf(const ControlRow& row);
+    // Every control that has its window.
+    void ForEachMade(const std::function<void(ControlWindow&)>& act) const;
     void NameControlsOncePainted();
     void NameControls();
     void TakeIcons();

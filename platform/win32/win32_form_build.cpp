@@ -81,26 +81,68 @@ void Win32Form::CreateControls() {
     }
 }
 
+// The windows of a tab page wait until it is in front.
 void Win32Form::CreateControl(const ControlRow& row) {
     controls_.push_back(MakeControl(PlaceOf(row)));
     ControlWindow& control = *controls_.back();
-    focus_.AddControl(control.Handle(), row.kind != ControlKind::Tab);
     if (row.kind == ControlKind::TabPage) {
         dynamic_cast<Win32TabControl&>(FindControl(row.parent)->AsControl()).AddPage(control);
-    } else {
-        tooltips_->Set(control.Handle(), row.tooltip);
+    }
+    const ControlWindow* page = PageOf(row);
+    if (page == nullptr || page->Visible()) {
+        MakeWindow(control);
+    }
+}
+
+// The tab page that the control stands on, or is; null where that is none.
+const ControlWindow* Win32Form::PageOf(const ControlRow& row) const {
+    const ControlWindow* control = FindControl(row.id);
+    while (control != nullptr && control->Row().kind != ControlKind::TabPage) {
+        control = FindControl(control->Row().parent);
+    }
+    return control;
+}
+
+void Win32Form::NeedWindow(const ControlRow& row) {
+    const ControlWindow* page = PageOf(row);
+    for (const auto& control : controls_) {
+        if (control->Handle() == nullptr && PageOf(control->Row()) == page) {
+            MakeWindow(*control);
+        }
+    }
+}
+
+void Win32Form::MakeWindow(ControlWindow& control) {
+    const ControlRow& row = control.Row();
+    const ControlWindow* parent = FindControl(row.parent);
+    const std::size_t index = IndexOf(row);
+    control.MakeWindow(parent == nullptr ? window_.Get() : parent->Handle(), places_[index]);
+    if (control.Handle() == nullptr) {
+        return;
+    }
+    focus_.AddControl(control.Handle(), index, row.kind != ControlKind::Tab);
+    // Those made with the form are set up together.
+    if (fonts_) {
+        SetUp(control);
+        control.OnLayout();
+    }
+    if (named_) {
+        SetAccessibleName(control.Handle(), row.name);
     }
 }
 
 ControlPlace Win32Form::PlaceOf(const ControlRow& row) {
-    const auto index = static_cast<std::size_t>(&row - rows_.data());
-    ControlPlace place{
-        *this, row, session_.instance, window_.Get(), places_[index], Surface::WindowFace};
-    if (const ControlWindow* parent = FindControl(row.parent)) {
-        place.parent = parent->Handle();
-        place.surface = parent->InnerSurface();
+    const ControlWindow* parent = FindControl(row.parent);
+    return {*this, row, session_.instance,
+            parent == nullptr ? Surface::WindowFace : parent->InnerSurface()};
+}
+
+void Win32Form::ForEachMade(const std::function<void(ControlWindow&)>& act) const {
+    for (const auto& control : controls_) {
+        if (control->Handle() != nullptr) {
+            act(*control);
+        }
     }
-    return place;
 }
 
 std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place) {
@@ -156,17 +198,9 @@ void Win32Form::NameControls() {
     KillTimer(window_.Get(), kNamingTimer);
     session_.ole.Need();
     named_ = true;
-    for (const auto& control : controls_) {
-        SetAccessibleName(control->Handle(), control->Row().name);
-    }
-}
-
-void Win32Form::OnControlReplaced(const ControlRow& row, HWND former, HWND window) {
-    focus_.ReplaceControl(former, window);
-    tooltips_->Replace(former, window);
-    if (named_) {
-        SetAccessibleName(window, row.name);
-    }
+    ForEachMade([](const ControlWindow& control) {
+        SetAccessibleName(control.Handle(), control.Row().name);
+    });
 }
 
 void Win32Form::TakeIcons() {

@@ -74,18 +74,18 @@ void Win32Form::MoveWindowTo(const RECT& place) const {
 void Win32Form::ApplyDpi() {
     // The controls still draw with the old fonts until each has its new one.
     const std::optional<Fonts> old = std::exchange(fonts_, Fonts(dpi_));
-    for (const auto& control : controls_) {
-        SendMessageW(control->Handle(), WM_SETFONT,
-                     reinterpret_cast<WPARAM>(FontOf(control->Row())), FALSE);
-        control->OnDpi(dpi_);
-    }
+    ForEachMade([this](ControlWindow& control) { SetUp(control); });
     tooltips_->SetDpi(dpi_);
     TakeIcons();
     Layout();
-    for (const auto& control : controls_) {
-        control->OnLayout();
-    }
+    ForEachMade([](ControlWindow& control) { control.OnLayout(); });
     RedrawWindow(window_.Get(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Win32Form::SetUp(ControlWindow& control) const {
+    SendMessageW(control.Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(FontOf(control.Row())),
+                 FALSE);
+    control.OnDpi(dpi_);
 }
 
 HFONT Win32Form::FontOf(const ControlRow& row) const {
@@ -110,21 +110,21 @@ std::vector<Rect> Win32Form::ComputePlaces() const {
 
 void Win32Form::Layout() {
     std::vector<Rect> places = ComputePlaces();
-    for (const auto& control : controls_) {
-        const auto row = static_cast<std::size_t>(&control->Row() - rows_.data());
+    ForEachMade([&](ControlWindow& control) {
+        const std::size_t row = IndexOf(control.Row());
         const Rect& place = places[row];
         // Most places stay: only the few that do not are worth a call of the system.
         if (places_[row] != place) {
-            SetWindowPos(control->Handle(), nullptr, place.left, place.top, place.width,
+            SetWindowPos(control.Handle(), nullptr, place.left, place.top, place.width,
                          place.height, SWP_NOZORDER | SWP_NOACTIVATE);
-            control->OnLayout();
+            control.OnLayout();
         }
-    }
+    });
     places_ = std::move(places);
 }
 
 void Win32Form::MoveTop(const ControlRow& row, int twips) {
-    const auto index = static_cast<std::size_t>(&row - rows_.data());
+    const std::size_t index = IndexOf(row);
     tops_[index] = twips;
     rows_[index].rect.top = PixelsOfTwips(twips, kDesignDpi);
     Layout();

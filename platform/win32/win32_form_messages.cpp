@@ -174,9 +174,9 @@ std::optional<LRESULT> Win32Form::OnSize(WPARAM wParam, LPARAM /*lParam*/) {
 
 // The system tells only the form.
 std::optional<LRESULT> Win32Form::OnSystemColours(WPARAM /*wParam*/, LPARAM /*lParam*/) {
-    for (const auto& control : controls_) {
-        SendMessageW(control->Handle(), WM_SYSCOLORCHANGE, 0, 0);
-    }
+    ForEachMade([](const ControlWindow& control) {
+        SendMessageW(control.Handle(), WM_SYSCOLORCHANGE, 0, 0);
+    });
     return std::nullopt;
 }
 

@@ -96,8 +96,17 @@ enum ContractId {
     kPageOne,
     kPageTwo,
     kButtonOne,
-    kImage,  // on kPageOne
-    kButtonTwo,
+    kImage,      // on kPageOne
+    kButtonTwo,  // this and the next ones on kPageTwo
+    kBehindCheck,
+    kBehindOptionA,
+    kBehindOptionB,
+    kBehindText,
+    kBehindList,
+    kBehindFrame,
+    kBehindLabel,  // in kBehindFrame
+    kBehindImage,
+    kBehindRich,
     kTimer,
     kRich,
     kReadOnlyText,
@@ -155,6 +164,7 @@ using FormContract = ControlsContract;
 using LooksContract = ControlsContract;
 using ImageControlsContract = ControlsContract;
 using TextColourContract = ControlsContract;
+using PageBehindContract = ControlsContract;
 using RichTextContract = ControlsContract;
 
 }  // namespace zentar

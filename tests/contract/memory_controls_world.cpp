@@ -118,6 +118,7 @@ INSTANTIATE_TEST_SUITE_P(Memory, FormContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, LooksContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, ImageControlsContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, TextColourContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, PageBehindContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, RichTextContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FullScreenContract, kMemory);
 

@@ -17,8 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMiscTab = 2;
-
 // Who speaks in the sample.
 const std::string kCondumpNames = "Fred, Bob <3, Fragger";
 

@@ -201,7 +201,7 @@ TEST_F(Commands, ALockedDemoStaysWhereItIs) {
 class Installer : public Commands {
   protected:
     void Install(const std::string& game) const {
-        zentar_->ShowTab(2);
+        zentar_->ShowTab(kMiscTab);
         zentar_->ClickOn(IDC_cmdDemoInstaller);
         zentar_->PickFolder("Please locate the folder with the unzipped " + game + " demos:",
                             Unzipped());
@@ -240,6 +240,7 @@ TEST_F(Installer, FromAnotherDriveToo) {
     Add("b.dm_66", samples::DemoKind::Dm66, "");
     const SecondDrive drive(home_.Games());
     const ZentarDriver& zentar = Open({"Game=Quake3", "Q3Folder=" + drive.Root() + "Quake3\\"});
+    zentar.ShowTab(kMiscTab);
     EXPECT_SOON(zentar.Text(IDC_fraDemoInstaller), "Q3 Demo Installer");
     Install("Quake3");
     Answer(Done({"Number of demos successfully installed: 2 out of 2."}, BoxIcon::Information),
@@ -252,7 +253,7 @@ TEST_F(Installer, FromAnotherDriveToo) {
 
 TEST_F(Installer, IsOfNoUseForQuake1) {
     const ZentarDriver& zentar = Open({"Game=Quake1"});
-    zentar.ShowTab(2);
+    zentar.ShowTab(kMiscTab);
     EXPECT_EQ(zentar.Text(IDC_fraDemoInstaller), "Q2/3 Demo Installer");
     EXPECT_EQ(zentar.Text(IDC_cmdDemoInstaller), "Unavailable");
     EXPECT_FALSE(zentar.Usable(IDC_cmdDemoInstaller));

@@ -28,7 +28,7 @@ class Playback : public testing::Test {
         settings.emplace_back("Expert=1");
         home_.WriteIni(settings);
         zentar_ = std::make_unique<ZentarDriver>(home_);
-        zentar_->ShowTab(1);
+        zentar_->ShowTab(kDemosTab);
         return *zentar_;
     }
 
@@ -184,7 +184,7 @@ TEST_F(Playback, OldGamesOfAnotherLengthAreRefused) {
 TEST_F(Playback, OutsideExpertModeTheUserIsAsked) {
     home_.WriteIni();
     const ZentarDriver zentar(home_);
-    zentar.ShowTab(1);
+    zentar.ShowTab(kDemosTab);
     zentar.Choose(IDC_lstDemos, "campaign", 'P');
     HWND box = zentar.WaitForBox("Confirm");
     const BoxContents question{.title = "Confirm",

@@ -13,8 +13,6 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr int kDemosTab = 1;
-
 class Demos : public testing::Test {
   protected:
     // The Demos tab of a running program with the given settings.
@@ -218,6 +216,7 @@ TEST_F(Demos, AThousandDemosAreListed) {
     const ZentarHome home(1000);
     home.WriteIni({"AutoShowAll=0", "DemosAll=0", "DemosText=True", "DemosFilter=Player77: "});
     const ZentarDriver zentar(home);
+    zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Items(IDC_lstDemos), Lines{"match 77"});
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 1 of 1008.");
 }

@@ -145,7 +145,7 @@ TEST_F(Dialogs, F1DoesNoHarm) {
 TEST_F(Dialogs, TabWalksThroughTheMainWindowInReadingOrder) {
     home_.WriteIni({"AutoShowAll=0", "DemosAll=0", "DemosFilter="});
     const ZentarDriver zentar(home_);
-    zentar.ShowTab(1);
+    zentar.ShowTab(kDemosTab);
     SetForegroundWindow(zentar.Main());
     std::vector<int> order;
     for (int step = 0; step < 9; ++step) {
@@ -163,7 +163,7 @@ TEST_F(Dialogs, TabWalksThroughTheMainWindowInReadingOrder) {
 TEST_F(Dialogs, TheKeyboardOpensThePopupMenu) {
     home_.WriteIni();
     const ZentarDriver zentar(home_);
-    zentar.ShowTab(1);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickItem(IDC_lstDemos, "campaign");
     PressWith(VK_SHIFT, VK_F10);
     const HWND popup = zentar.WaitForWindow("#32768", "");

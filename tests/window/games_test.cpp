@@ -32,6 +32,7 @@ class Games : public testing::Test {
 
 TEST_F(Games, TheOptionButtonsChangeTheGame) {
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickOn(IDC_optGameQuake3);
     EXPECT_SOON(zentar.Items(IDC_lstMods), (Lines{"baseq3", "missionpack", "osp", "threewave"}));
     EXPECT_SOON(CheckedGames(zentar), std::vector<int>{IDM_mnuGameQuake3});
@@ -44,6 +45,7 @@ TEST_F(Games, TheOptionButtonsChangeTheGame) {
 
 TEST_F(Games, TheMenuChangesTheGameAndItsOptionButton) {
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     EXPECT_SOON(CheckedGames(zentar), std::vector<int>{IDM_mnuGameQuake2});
     zentar.OpenMenuEntry('G', '3');
     EXPECT_SOON(CheckedGames(zentar), std::vector<int>{IDM_mnuGameQuake3});
@@ -55,6 +57,7 @@ TEST_F(Games, TheMenuChangesTheGameAndItsOptionButton) {
 
 TEST_F(Games, EachGameOffersItsMapNamesAsPhrases) {
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     EXPECT_EQ(zentar.Items(IDC_lstDemoFilter).size(), 60U);
     zentar.ClickOn(IDC_optGameQuake1);
     EXPECT_SOON(zentar.Items(IDC_lstDemoFilter).size(), 46U);
@@ -65,6 +68,7 @@ TEST_F(Games, EachGameOffersItsMapNamesAsPhrases) {
 
 TEST_F(Games, OnlyQuake3ShowsAVersion) {
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     EXPECT_FALSE(zentar.Visible(IDC_labDemoVersion));
     zentar.ClickOn(IDC_optGameQuake3);
     EXPECT_SOON(zentar.Visible(IDC_labDemoVersion), true);
@@ -74,6 +78,7 @@ TEST_F(Games, OnlyQuake3ShowsAVersion) {
 
 TEST_F(Games, AnotherModShowsItsDemos) {
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickItem(IDC_lstMods, "ctf");
     EXPECT_SOON(zentar.Items(IDC_lstDemos), (Lines{"revival", "stronghold"}));
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 2 of 2.");
@@ -91,6 +96,7 @@ TEST_F(Games, EachGameRemembersItsMod) {
 TEST_F(Games, AnotherModShowsAllItsDemosAgain) {
     home_.WriteIni({"DemosAll=0", "DemosFilter=q2dm1"});
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickItem(IDC_lstMods, "ctf");
     EXPECT_SOON(zentar.Checked(IDC_chkShowAllDemos), true);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 2 of 2.");
@@ -99,6 +105,7 @@ TEST_F(Games, AnotherModShowsAllItsDemosAgain) {
 TEST_F(Games, ThePreferenceKeepsTheFilterForAnotherMod) {
     home_.WriteIni({"DemosAll=0", "DemosFilter=q2ctf1", "DemosText=True", "AutoShowAll=0"});
     const ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickItem(IDC_lstMods, "ctf");
     EXPECT_SOON(zentar.Items(IDC_lstDemos), Lines{"revival"});
     EXPECT_FALSE(zentar.Checked(IDC_chkShowAllDemos));
@@ -136,6 +143,7 @@ TEST_F(Games, AnotherFolderOfTheGameIsTakenAndShownAtOnce) {
     std::filesystem::create_directories(other / "rocket");
     WriteBytes(other / "quake2.exe", "game");
     ZentarDriver zentar(home_);
+    zentar.ShowTab(kDemosTab);
     zentar.OpenMenuEntry('G', 'F');
     zentar.PickFolder("Please locate your Quake2 folder:", other);
     EXPECT_SOON(zentar.Items(IDC_lstMods), (Lines{"baseq2", "rocket"}));

@@ -51,7 +51,7 @@ TEST_F(Layout, NoCaptionOfTheMainWindowIsCut) {
         ExpectWholeCaptions(zentar_->Main());
     }
     zentar_->ClickOn(IDC_optGameQuake3);
-    zentar_->ShowTab(1);
+    zentar_->ShowTab(kDemosTab);
     zentar_->ClickItem(IDC_lstDemos, "duel  ");
     EXPECT_SOON(zentar_->Text(IDC_labDemoName), "Name: (n/a for v1.29f and higher)");
     ExpectWholeCaptions(zentar_->Main());
@@ -65,7 +65,7 @@ TEST_F(Layout, NoCaptionOfThePreferencesIsCut) {
 }
 
 TEST_F(Layout, TheListsGrowWithTheWindow) {
-    zentar_->ShowTab(1);
+    zentar_->ShowTab(kDemosTab);
     const RECT window = AreaOf(zentar_->Main());
     const RECT demos = AreaOf(zentar_->Control(IDC_lstDemos));
     const RECT mods = AreaOf(zentar_->Control(IDC_lstMods));

@@ -26,7 +26,7 @@ TEST(Pictures, OfEveryTabAndDialog) {
         zentar.ShowTab(tab);
         EXPECT_GT(TakePicture(main, tabs[tab]), kSmallestPicture);
     }
-    zentar.ShowTab(1);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickItem(IDC_lstDemos, "edge final");
     EXPECT_GT(TakePicture(main, "demo selected"), kSmallestPicture);
     const HWND popup = zentar.OpenPopup(IDC_lstDemos, "edge final");
@@ -97,14 +97,14 @@ TEST(Pictures, OfChatAndColouredText) {
                    "Player1Name=Fred", "Player1Colour=32768", "Player2Name=Bob <3",
                    "Player2Colour=128", "Player3Name=Fragger", "TranscriptGameplay=1"});
     const ZentarDriver zentar(home);
-    zentar.ShowTab(2);
+    zentar.ShowTab(kMiscTab);
     EXPECT_GT(TakePicture(zentar.Main(), "chat"), kSmallestPicture);
     DoubleClick(CentreOf(zentar.Control(IDC_txtPlayer1)));
     const HWND colours = WaitForColourDialog(zentar.Process());
     zentar.Settle();
     EXPECT_GT(TakePicture(colours, "colour dialog"), kSmallestPicture);
     CancelColourDialog(colours);
-    zentar.ShowTab(3);
+    zentar.ShowTab(kQ3TextTab);
     EXPECT_GT(TakePicture(zentar.Main(), "design"), kSmallestPicture);
     zentar.ClickOn(IDC_cmdQ3TextSave);
     const HWND save = WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text");

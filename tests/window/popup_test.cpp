@@ -10,8 +10,6 @@
 namespace zentar::window_tests {
 namespace {
 
-constexpr int kDemosTab = 1;
-
 // The entries of the opened menu that are enabled; closes it.
 std::vector<int> EnabledIn(const ZentarDriver& zentar, HWND popup) {
     std::vector<int> enabled;

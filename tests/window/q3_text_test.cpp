@@ -15,8 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kQ3TextTab = 3;
-
 class Q3Text : public CommandsTest {
   protected:
     ZentarDriver& Open(const IniLines& settings = {}) {

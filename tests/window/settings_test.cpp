@@ -56,7 +56,7 @@ TEST(Settings, AreWrittenToTheByteWhenTheProgramIsClosed) {
     const ZentarHome home;
     home.WriteIni(kPlayer);
     ZentarDriver zentar(home);
-    zentar.ShowTab(1);
+    zentar.ShowTab(kDemosTab);
     zentar.ClickOn(IDC_chkShowAllDemos);
     zentar.ClickOn(IDC_optTextNo);
     zentar.ClickOn(IDC_txtDemoFilter);
@@ -143,6 +143,7 @@ TEST(Settings, OnlyWhatConvertsUnderItsExactKeyCounts) {
                    "DemosFilter=right", "AutoShowAll=0", "DemosAll=0", "DemosAll=many",
                    "Expert=300", "game=Quake3"});
     ZentarDriver zentar(home);
+    zentar.ShowTab(kDemosTab);
     EXPECT_TRUE(zentar.Checked(IDC_optTextNo));
     EXPECT_FALSE(zentar.Checked(IDC_chkShowAllDemos));
     EXPECT_SOON(zentar.Text(IDC_txtDemoFilter), "right");

@@ -36,6 +36,7 @@ TEST(StartUp, TheDemosOfTheModAreListedInAlphabeticalOrderAndCounted) {
     const ZentarHome home;
     home.WriteIni();
     const ZentarDriver zentar(home);
+    zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Items(IDC_lstDemos),
                 (Lines{"[q2dm3] warm-up", "campaign", "edge final", "empty", "Größe [q2dm1]",
                        "shopping list", "untitled", "дуэль"}));
@@ -46,6 +47,7 @@ TEST(StartUp, TheStoredModIsSelectedAgain) {
     const ZentarHome home;
     home.WriteIni({"CurMod2=ctf"});
     const ZentarDriver zentar(home);
+    zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Selected(IDC_lstMods), "ctf");
     EXPECT_SOON(zentar.Items(IDC_lstDemos), (Lines{"revival", "stronghold"}));
 }
@@ -62,6 +64,7 @@ TEST(StartUp, AMissingGameShowsAnEmptyListThatCannotBeUsed) {
     home.WriteIni();
     std::filesystem::remove(home.Games() / "Quake2" / "quake2.exe");
     const ZentarDriver zentar(home);
+    zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Items(IDC_lstMods), Lines{});
     EXPECT_FALSE(zentar.Usable(IDC_lstMods));
     EXPECT_FALSE(zentar.Usable(IDC_labMod));
@@ -74,6 +77,7 @@ TEST(StartUp, AModWithoutADemosFolderShowsAnEmptyListThatCannotBeUsed) {
     const ZentarHome home;
     home.WriteIni({"CurMod2=lithium"});
     const ZentarDriver zentar(home);
+    zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 0 of 0.");
     EXPECT_FALSE(zentar.Usable(IDC_lstDemos));
     EXPECT_TRUE(zentar.Usable(IDC_lstMods));

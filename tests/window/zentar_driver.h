@@ -13,6 +13,9 @@
 
 namespace zentar::window_tests {
 
+// The tabs of the main window, as ShowTab counts them.
+enum Tab : int { kShotsTab, kDemosTab, kMiscTab, kQ3TextTab, kFirstAidTab };
+
 class ZentarDriver {
   public:
     // Starts the program of that folder and waits for its main window. Unless a first run is

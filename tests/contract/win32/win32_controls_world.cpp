@@ -204,7 +204,11 @@ class Win32ControlsWorld : public ControlsWorld {
     }
 
     bool TakesInput(Form& form, int id) override { return MouseReaches(Of(form, id)); }
-    bool Seen(Form& form, int id) override { return IsWindowVisible(Of(form, id)) != FALSE; }
+    // Nobody sees what has no window.
+    bool Seen(Form& form, int id) override {
+        const HWND control = SearchControlWindow(Top(form), id);
+        return control != nullptr && IsWindowVisible(control) != FALSE;
+    }
     bool Shown(Form& form) override { return IsWindowVisible(Top(form)) != FALSE; }
 
     bool ShownGrey(Form& form, int picture) override {
@@ -264,6 +268,7 @@ INSTANTIATE_TEST_SUITE_P(Win32, FormContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, LooksContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, ImageControlsContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, TextColourContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, PageBehindContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, RichTextContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FullScreenContract, kWin32);
 

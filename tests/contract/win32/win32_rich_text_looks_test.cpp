@@ -17,12 +17,6 @@ namespace {
 
 using Win32RichTextLooks = RichTextUser;
 
-bool IsEditor(HWND window) {
-    std::array<wchar_t, 64> name{};
-    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-    return lstrcmpiW(name.data(), MSFTEDIT_CLASS) == 0;
-}
-
 COLORREF CornerOf(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
@@ -38,36 +32,6 @@ std::string Words(int count) {
 }
 
 }  // namespace
-
-TEST(Win32RichTextStart, TheEditorIsMadeWhenTheBoxIsFirstSeen) {
-    const std::unique_ptr<Form> form = ThePlatform().Services().forms.Create(ContractMainTable());
-    const HWND top = FindTopWindow(ContractMainTable().caption);
-    form->GetRichTextBox(kRich).SetContent({{"a", kRed}});
-    form->GetRichTextBox(kRich).SetTooltip("Coloured.");
-    EXPECT_FALSE(IsEditor(FindControlWindow(top, kRich)));
-    form->Show();
-    ThePlatform().Services().windows.PumpPending();
-    const HWND editor = FindControlWindow(top, kRich);
-    EXPECT_TRUE(IsEditor(editor));
-    EXPECT_EQ(GetParent(editor), top);
-    EXPECT_EQ(FindWindowExW(top, nullptr, L"STATIC", L""), nullptr)
-        << "the stand-in is still there";
-    PostMove(editor, {1, 1});
-    ThePlatform().Services().windows.PumpPending();
-    EXPECT_EQ(TooltipOf(top, editor), "Coloured.");
-}
-
-TEST(Win32RichTextStart, TheFocusMakesTheEditorToo) {
-    const std::unique_ptr<Form> form = ThePlatform().Services().forms.Create(ContractMainTable());
-    const HWND top = FindTopWindow(ContractMainTable().caption);
-    const HWND standIn = FindControlWindow(top, kRich);
-    form->GetRichTextBox(kRich).SetFocus();
-    form->Show();
-    ThePlatform().Services().windows.PumpPending();
-    EXPECT_TRUE(form->GetRichTextBox(kRich).HasFocus());
-    EXPECT_EQ(GetFocus(), FindControlWindow(top, kRich));
-    EXPECT_FALSE(IsWindow(standIn));
-}
 
 TEST_F(Win32RichTextLooks, TheTabKeyComesAndGoesAndKeepsWhatIsSelected) {
     Box().SetText("abc");
@@ -180,7 +144,7 @@ TEST_F(Win32RichTextLooks, TheHourglassStandsOverTheBoxToo) {
     EXPECT_NE(pointer(), LoadCursorW(nullptr, IDC_WAIT));
 }
 
-TEST(Win32RichTextStart, TheBorderIsThatOfTextBoxes) {
+TEST(Win32RichTextWindow, TheBorderIsThatOfTextBoxes) {
     const VisualStyles styles;
     const std::unique_ptr<Form> form = ThePlatform().Services().forms.Create(ContractMainTable());
     form->GetRichTextBox(kRich).SetBackground(kOrange);
@@ -206,7 +170,7 @@ TEST(Win32RichTextStart, TheBorderIsThatOfTextBoxes) {
     EXPECT_EQ(edge(kRich, 1), GetSysColor(COLOR_BTNFACE));
 }
 
-TEST(Win32RichTextStart, NoHandleStaysBehind) {
+TEST(Win32RichTextWindow, NoHandleStaysBehind) {
     const int fonts = UniqueFont::Live();
     const int brushes = UniqueBrush::Live();
     const int regions = UniqueRegion::Live();

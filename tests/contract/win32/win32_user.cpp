@@ -88,11 +88,16 @@ HWND FindTopWindow(std::string_view title) {
     return search.found;
 }
 
-HWND FindControlWindow(HWND top, int id) {
+HWND SearchControlWindow(HWND top, int id) {
     Search search{{}, id};
     EnumChildWindows(top, CompareId, reinterpret_cast<LPARAM>(&search));
-    EXPECT_NE(search.found, nullptr) << "no control " << id;
     return search.found;
+}
+
+HWND FindControlWindow(HWND top, int id) {
+    const HWND found = SearchControlWindow(top, id);
+    EXPECT_NE(found, nullptr) << "no control " << id;
+    return found;
 }
 
 std::string TooltipOf(HWND top, HWND control) {

@@ -11,8 +11,10 @@ namespace zentar {
 
 // The window of this thread that has this title; null when there is none.
 HWND FindTopWindow(std::string_view title);
-// The control of this number, however deep in the window.
+// The control of this number, however deep in the window; it must be there.
 HWND FindControlWindow(HWND top, int id);
+// The same, but null when it has no window.
+HWND SearchControlWindow(HWND top, int id);
 
 // The tooltip of a control; empty when it has none. There is none at all before the mouse moved.
 std::string TooltipOf(HWND top, HWND control);
