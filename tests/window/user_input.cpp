@@ -81,7 +81,12 @@ void PressWith(WORD modifier, WORD key) {
     SendKey(modifier, 0, KEYEVENTF_KEYUP);
 }
 
-void HoldKey(WORD key) { SendKey(key, 0, 0); }
+void HoldKey(WORD key) {
+    SendKey(key, 0, 0);
+    // Nobody holds a key for less. A program under Wine asks again only 50 ms after it last asked
+    // which keys are down.
+    Sleep(100);
+}
 
 void ReleaseKey(WORD key) { SendKey(key, 0, KEYEVENTF_KEYUP); }
 
