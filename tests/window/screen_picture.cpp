@@ -9,13 +9,14 @@
 
 #include "platform/nviewlib/win32/resources.h"
 #include "tests/window/text_conversion.h"
+#include "tests/window/zentar_home.h"
 
 namespace zentar::window_tests {
 
 namespace {
 
 std::filesystem::path PictureFolder() {
-    std::filesystem::path folder = "pictures";
+    std::filesystem::path folder = BuildFolder() / "pictures";
     if (const wchar_t* wanted = _wgetenv(L"ZENTAR_PICTURES")) {
         folder = wanted;
     }

@@ -9,7 +9,7 @@
 namespace zentar::window_tests {
 
 // Saves the part of the screen that a window takes up as <name>.png in the folder that the
-// environment variable ZENTAR_PICTURES names, or in "pictures" in the working folder.
+// environment variable ZENTAR_PICTURES names, or in "pictures" beside the built program.
 // Gives the length of the file.
 std::uintmax_t TakePicture(HWND window, const std::string& name);
 
