@@ -82,7 +82,7 @@ std::optional<std::string> PlainSpeaker(std::string line, bool quake3) {
     }
     name = WithoutFront(name);
     if (IsEnclosed(name) && !Has(name, " (")) {
-        name = name.size() == 1 ? "" : name.substr(1, name.size() - 2);
+        name = name.substr(1, name.size() - 2);
     }
     if (!quake3) {
         return name;

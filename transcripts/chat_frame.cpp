@@ -7,6 +7,7 @@
 #include "core/hourglass.h"
 #include "core/program_info.h"
 #include "core/program_life.h"
+#include "core/questions.h"
 #include "platform/file_system.h"
 #include "platform/shell.h"
 #include "platform/window_services.h"
@@ -114,7 +115,8 @@ void ChatFrame::ScanLog(const std::string& path) {
     if (!names->empty()) {
         source_ = path;
         controls_.cmdCreateTranscript.SetFocus();
-    } else if (platform_.windows.Ask(messages::NoNamesFound(path)) == Answer::No) {
+    } else if (platform_.windows.Ask(messages::NoNamesFound(path)) == Answer::No ||
+               !MayChangeFile(platform_, path, messages::DeleteReadOnlyLog())) {
         return;
     } else if (!platform_.files.Delete(path).Ok()) {
         platform_.windows.Sound(Beep::Exclamation);
@@ -127,12 +129,12 @@ void ChatFrame::ScanLog(const std::string& path) {
 std::optional<std::vector<std::string>> ChatFrame::NamesIn(const std::string& path) {
     const bool quake3 = state_.settings.Game == kQuake3;
     const Hourglass hourglass(platform_.windows);
+    source_.clear();
     const auto file = platform_.files.OpenForReading(path);
     if (!file.Ok()) {
         return std::nullopt;
     }
     cmdClearNames_Click();
-    source_.clear();
     platform_.windows.PumpPending();
     ConsoleLines lines(*file.Value());
     std::vector<std::string> names = ScanForNames(lines, quake3);

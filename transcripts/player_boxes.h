@@ -20,7 +20,6 @@ class PlayerBoxes {
   public:
     PlayerBoxes(ProgramState& state, const ChatFrameControls& controls);
 
-    std::string Name(std::size_t box) const;
     bool AllEmpty() const;
     void Show(const std::vector<std::string>& names);
     void ClearNames();
@@ -41,6 +40,7 @@ class PlayerBoxes {
     std::array<ChosenPlayer, kPlayerBoxes> ChosenPlayers() const;
 
   private:
+    std::string Name(std::size_t box) const;
     void ShowBackground(Colour colour);
 
     ProgramState& state_;

@@ -106,9 +106,7 @@ constexpr std::array<std::string_view, 83> kMessageBeginnings = {
     "z_",
 };
 
-constexpr std::array<std::string_view, 6> kQuake3Ends = {
-    " Item",    " ClientBegin", " ClientConnect", " ClientDisconnect", " ClientUserinfoChanged",
-    " InitGame"};
+constexpr std::array<std::string_view, 2> kQuake3Ends = {" Item", " InitGame"};
 
 bool IsWithin(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
@@ -118,17 +116,6 @@ template <typename Texts>
 bool EndsWithAny(std::string_view text, const Texts& ends) {
     return std::any_of(ends.begin(), ends.end(),
                        [text](std::string_view end) { return text.ends_with(end); });
-}
-
-// Where the first of them from a place on is.
-std::size_t FindSpeechMark(std::string_view line, std::size_t from = 0) {
-    for (std::size_t at = line.find(':', from); at != std::string_view::npos;
-         at = line.find(':', at + 1)) {
-        if (at + 1 < line.size() && line[at + 1] == ' ') {
-            return at;
-        }
-    }
-    return std::string_view::npos;
 }
 
 // Each of the markers ends with a speech mark, of which most lines have one or none.
@@ -194,6 +181,16 @@ bool IsQuake3Message(std::string_view line, std::string_view name) {
 }
 
 }  // namespace
+
+std::size_t FindSpeechMark(std::string_view line, std::size_t from) {
+    for (std::size_t at = line.find(':', from); at != std::string_view::npos;
+         at = line.find(':', at + 1)) {
+        if (at + 1 < line.size() && line[at + 1] == ' ') {
+            return at;
+        }
+    }
+    return std::string_view::npos;
+}
 
 std::string_view WithoutSpeechMarkers(std::string_view line) {
     if (!HoldsSpeechMarker(line)) {

@@ -39,6 +39,12 @@ Message NoNamesFound(const std::string& path) {
             MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
 }
 
+Message DeleteReadOnlyLog() {
+    return FailureWithQuestion(
+        Lines({"This condump/logfile couldn't be deleted due to being set as read-only.",
+               "Would you like me to remove this setting to force the deletion?"}));
+}
+
 Message LogNotReadable() {
     return Failure(Lines({"This condump/logfile couldn't be read.", "",
                           "Another program may be using it, or it may be protected."}));

@@ -12,6 +12,7 @@ namespace zentar::messages {
 Message ScanMayErr();
 Message TranscriptCannotBeScanned();
 Message NoNamesFound(const std::string& path);
+Message DeleteReadOnlyLog();
 Message LogNotReadable();
 Message TranscriptOfTranscript();
 Message LogIsGone(const std::string& path);

@@ -160,7 +160,7 @@ void TranscriptWriter::Add(std::string_view line) {
     if (line.starts_with('\1')) {
         line.remove_prefix(1);
     }
-    const std::size_t mark = line.find(": ");
+    const std::size_t mark = FindSpeechMark(line);
     if (mark != std::string_view::npos) {
         if (const ChosenPlayer* speaker = SpeakerIn(line.substr(0, mark))) {
             WriteSpeech(line, *speaker);

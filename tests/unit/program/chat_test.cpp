@@ -119,6 +119,10 @@ TEST_F(ChatTest, TheWarningThatWasSkippedStaysSkipped) {
     State().settings.ScanWarn = 1;
     Quit();
     EXPECT_THAT(os.files.Contents(kIni), HasSubstr("\r\nScanWarn=1\r\n"));
+    StartOnMisc();
+    os.files.AddFile(kQuake2Folder + "baseq2\\duel.log", "Bob: hi\n");
+    Scan(kQuake2Folder + "baseq2\\duel.log");
+    EXPECT_EQ(Box(1).Text(), "Bob");
 }
 
 TEST_F(ChatTest, ColoursThatWereChosenAreThereInTheNextRun) {

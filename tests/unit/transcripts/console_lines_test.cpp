@@ -2,6 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
+
 #include "tests/doubles/memory_file_system.h"
 #include "transcripts/console_lines.h"
 
@@ -62,12 +65,35 @@ TEST_F(ConsoleLinesTest, BlocksMayEndAnywhere) {
     EXPECT_EQ(LinesOf(bytes), expected);
 }
 
+// Notes where in memory a file is read to.
+class WatchedFile : public ReadableFile {
+  public:
+    explicit WatchedFile(ReadableFile& file) : file_(file) {}
+
+    Result<std::size_t> ReadAt(std::uint64_t offset, std::span<std::byte> into) override {
+        const auto begin = reinterpret_cast<std::uintptr_t>(into.data());
+        lowest_ = std::min(lowest_, begin);
+        highest_ = std::max(highest_, begin + into.size());
+        return file_.ReadAt(offset, into);
+    }
+    Result<std::uint64_t> Length() override { return file_.Length(); }
+
+    std::uintptr_t Room() const { return highest_ - lowest_; }
+
+  private:
+    ReadableFile& file_;
+    std::uintptr_t lowest_ = UINTPTR_MAX;
+    std::uintptr_t highest_ = 0;
+};
+
 TEST_F(ConsoleLinesTest, AHugeFileOfOneLineTakesNoMemory) {
     files.AddHugeFile(kPath, std::uint64_t{1} << 30U, (std::uint64_t{1} << 30U) - 8, "\nlast\n");
     const auto file = files.OpenForReading(kPath);
-    ConsoleLines lines(*file.Value());
+    WatchedFile watched(*file.Value());
+    ConsoleLines lines(watched);
     EXPECT_EQ(lines.Next(), "last");
     EXPECT_EQ(lines.Next(), std::nullopt);
+    EXPECT_LE(watched.Room(), std::uintptr_t{1} << 20U);
 }
 
 }  // namespace

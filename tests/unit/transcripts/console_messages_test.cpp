@@ -167,6 +167,12 @@ TEST(ConsoleMessages, OfALogLoseTheirMarkersInOrder) {
     EXPECT_EQ(WithoutSpeechMarkers("a tell: b vtell: c"), "c");
     EXPECT_EQ(WithoutSpeechMarkers("a vtell: b tell: c"), "c");
     EXPECT_EQ(WithoutSpeechMarkers("a say: b say: c"), "b say: c");
+    EXPECT_EQ(WithoutSpeechMarkers("a say: b sayteam: c say: d"), "d");
+    EXPECT_EQ(WithoutSpeechMarkers("a vtell: b say: c vtell: d"), "d");
+    EXPECT_EQ(WithoutSpeechMarkers("a tell: b vtell: c tell: d"), "d");
+    EXPECT_EQ(WithoutSpeechMarkers("a sayteam: b say: c sayteam: d"), "c sayteam: d");
+    EXPECT_EQ(WithoutSpeechMarkers("a say: b vtell: c say: d"), "c say: d");
+    EXPECT_EQ(WithoutSpeechMarkers("a vtell: b tell: c vtell: d"), "c vtell: d");
     EXPECT_EQ(WithoutSpeechMarkers("a SAY: b"), "a SAY: b");
     EXPECT_EQ(WithoutSpeechMarkers("say: b"), "say: b");
     EXPECT_EQ(WithoutSpeechMarkers("a say:b"), "a say:b");
@@ -212,6 +218,16 @@ TEST(SpeakersName, InQuake3EndsBeforeWhomItTells) {
     EXPECT_EQ(Speaker("^1Bob^7 to ^2Ann^7: hi", true), "Bob");
     EXPECT_EQ(Speaker("Tomato: hi", true), "Tomato");
     EXPECT_EQ(Speaker("Bob to Ann: hi", false), "Bob to Ann");
+}
+
+// Each step works on what the one before it left.
+TEST(SpeakersName, InQuake3LosesOneThingAfterTheOther) {
+    EXPECT_EQ(Speaker("<RED> Bob: hi", true), "Bob");
+    EXPECT_EQ(Speaker("^1<RED> Bob: hi", true), "Bob");
+    EXPECT_EQ(Speaker("Bob t^1o Ann: hi", true), "Bob");
+    EXPECT_EQ(Speaker("<RED> to Bob: hi", true), "<RED>");
+    EXPECT_EQ(Speaker("(Bob Item): hi", true), "(nobody)");
+    EXPECT_EQ(Speaker("(Bob InitGame): hi", true), "(nobody)");
 }
 
 TEST(SpeakersName, MayHoldAnyByteButNul) {

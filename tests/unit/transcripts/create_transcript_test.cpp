@@ -171,6 +171,9 @@ TEST_F(CreateTranscriptTest, ClicksWhileItRunsDoNothing) {
         Create();
         form->UserClick(IDC_cmdScanForNames);
         Clear();
+        UseHtml();
+        DoubleClick(1);
+        form->UserDoubleClick(IDC_txtTranscriptMessages);
     });
     ExpectLogToTranscribe(log_);
     os.shell.ExpectStart(Notepad(txt_));

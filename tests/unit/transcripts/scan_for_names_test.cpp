@@ -172,9 +172,7 @@ TEST_F(ScanForNamesTest, ClicksWhileItRunsDoNothing) {
         EXPECT_EQ(os.windows.CurrentPointer(), Pointer::Hourglass);
         ClickScan();
         Create();
-        if (Enabled(IDC_cmdClearNames)) {
-            Clear();
-        }
+        EXPECT_FALSE(Enabled(IDC_cmdClearNames));
         UseHtml();
         DoubleClick(1);
     });
@@ -223,13 +221,39 @@ TEST_F(ScanForNamesTest, OnNoItStaysAndNothingIsHeard) {
     EXPECT_THAT(os.windows.Sounds(), IsEmpty());
 }
 
-TEST_F(ScanForNamesTest, OneThatCannotBeDeletedStaysAndABeepTellsSo) {
+TEST_F(ScanForNamesTest, InExpertModeItIsAskedAboutToo) {
+    state.settings.Expert = 1;
+    const std::string log = AddLog("empty.log", "nothing\r\n");
+    ExpectNoNames(log, Answer::No);
+    Scan(log);
+    EXPECT_TRUE(os.files.Exists(log));
+}
+
+TEST_F(ScanForNamesTest, OneThatIsReadOnlyIsAskedAboutOnceMore) {
+    const Message readOnly = {
+        "Error",
+        "This condump/logfile couldn't be deleted due to being set as read-only.\r\n"
+        "Would you like me to remove this setting to force the deletion?",
+        MessageIcon::Exclamation, MessageButtons::YesNo, DefaultButton::Second};
     const std::string log = AddLog("empty.log", "nothing\r\n");
     os.files.SetReadOnly(log);
     ExpectNoNames(log, Answer::Yes);
+    os.windows.Expect(readOnly, Answer::No);
+    Scan(log);
+    EXPECT_TRUE(os.files.IsReadOnly(log));
+    EXPECT_THAT(os.windows.Sounds(), IsEmpty());
+    ExpectNoNames(log, Answer::Yes);
+    os.windows.Expect(readOnly, Answer::Yes);
+    Scan(log);
+    EXPECT_FALSE(os.files.Exists(log));
+    EXPECT_THAT(os.windows.Sounds(), ElementsAre(Beep::Information));
+}
+
+TEST_F(ScanForNamesTest, OneThatCannotBeDeletedStaysAndABeepTellsSo) {
+    const std::string log = AddLog("empty.log", "nothing\r\n");
+    ExpectNoNames(log, Answer::Yes, [&] { os.files.SetLocked(log); });
     Scan(log);
     EXPECT_TRUE(os.files.Exists(log));
-    EXPECT_TRUE(os.files.IsReadOnly(log));
     EXPECT_THAT(os.windows.Sounds(), ElementsAre(Beep::Exclamation));
 }
 
@@ -281,6 +305,17 @@ TEST_F(ScanForNamesTest, TheNextScanForgetsItAtItsStart) {
     const std::string empty = AddLog("empty.log", "");
     ExpectNoNames(empty, Answer::No);
     Scan(empty);
+    ExpectLogToTranscribe(std::nullopt);
+    Create();
+}
+
+TEST_F(ScanForNamesTest, AScanOfALogThatCannotBeReadForgetsItToo) {
+    Scan(AddLog("duel.log", kSpeech));
+    os.windows.Expect(
+        Failure("This condump/logfile couldn't be read.\r\n\r\n"
+                "Another program may be using it, or it may be protected."));
+    Scan(Folder() + "gone.log");
+    EXPECT_THAT(Names(), ElementsAre("Bob", "Ann"));
     ExpectLogToTranscribe(std::nullopt);
     Create();
 }

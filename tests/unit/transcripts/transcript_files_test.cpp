@@ -148,6 +148,14 @@ TEST_F(TranscriptFilesTest, ALogThatCannotBeReadLeavesTheOlderTranscript) {
     EXPECT_EQ(os.files.Contents(txt_), "older");
 }
 
+// The log may be what is wrong, so the user is asked for one anew.
+TEST_F(TranscriptFilesTest, AfterAFailureTheLogIsAskedForAgain) {
+    os.files.SetFreeSpace("C:\\", 100);
+    ExpectFailureOf(log_);
+    ExpectLogToTranscribe(std::nullopt);
+    Create();
+}
+
 TEST_F(TranscriptFilesTest, AFolderIsNoLog) {
     os.files.AddFolder(Folder() + "folder.log\\");
     ExpectFailureOf(Folder() + "folder.log");

@@ -138,6 +138,11 @@ TEST_F(TranscriptWriterTest, OneLeadingCtrlAGoes) {
     EXPECT_EQ(Body({"\1\1Bob: hi", "\1fight!", "\1", "a\1b"}), "\1Bob: hi\r\nfight!\r\na\1b\r\n");
 }
 
+TEST_F(TranscriptWriterTest, InQuake3ItGoesBehindTheCodesAndMarkers) {
+    options.quake3 = true;
+    EXPECT_EQ(Body({"  1:02 say: \1Bob: hi", "^1\1Bob: hi"}), "Bob: hi\r\nBob: hi\r\n");
+}
+
 // So that a marker counts though a code stands in it; the scan, which looks for names alone, takes
 // the codes off later.
 TEST_F(TranscriptWriterTest, InQuake3TheCodesGoBeforeTheMarkers) {
