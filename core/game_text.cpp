@@ -4,22 +4,10 @@
 #include <optional>
 
 #include "platform/code_page.h"
+#include "platform/utf8.h"
 
 namespace zentar {
 namespace {
-
-void AppendUtf8(std::string& text, char32_t point) {
-    if (point < 0x80) {
-        text += static_cast<char>(point);
-    } else if (point < 0x800) {
-        text += static_cast<char>(0xC0U | (point >> 6U));
-        text += static_cast<char>(0x80U | (point & 0x3FU));
-    } else {
-        text += static_cast<char>(0xE0U | (point >> 12U));
-        text += static_cast<char>(0x80U | ((point >> 6U) & 0x3FU));
-        text += static_cast<char>(0x80U | (point & 0x3FU));
-    }
-}
 
 // The length of the UTF-8 sequence that starts here, as its first byte says; cut at the text's end.
 std::size_t SequenceLength(std::string_view text, std::size_t at) {

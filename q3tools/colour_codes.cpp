@@ -87,7 +87,7 @@ class CodeWriter {
             code_ += WithoutFirstCharacter(text);
         }
     }
-    bool EndsWhite() const { return begun_ && last_ == kQ3White; }
+    bool EndsWhite() const { return last_ == kQ3White; }
 
   private:
     std::string& code_;

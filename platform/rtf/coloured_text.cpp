@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/rtf/unicode.h"
+#include "platform/utf8.h"
 
 namespace zentar {
 namespace {

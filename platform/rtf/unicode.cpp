@@ -7,8 +7,6 @@ namespace {
 
 constexpr char32_t kContinuationBits = 0x3F;
 
-char Byte(char32_t value) { return static_cast<char>(static_cast<unsigned char>(value)); }
-
 // What the first byte of a character says: how many follow, and its own part of the character.
 struct Lead {
     std::size_t following = 0;
@@ -36,27 +34,6 @@ Lead LeadOf(unsigned char byte) {
 bool IsCharacter(char32_t point) { return point <= 0x10FFFF && (point < 0xD800 || point > 0xDFFF); }
 
 }  // namespace
-
-void AppendUtf8(std::string& text, char32_t point) {
-    if (point < 0x80) {
-        text += Byte(point);
-        return;
-    }
-    std::size_t following = 1;
-    char32_t mark = 0xC0;
-    if (point >= 0x10000) {
-        following = 3;
-        mark = 0xF0;
-    } else if (point >= 0x800) {
-        following = 2;
-        mark = 0xE0;
-    }
-    text += Byte(mark | point >> (6 * following));
-    while (following > 0) {
-        --following;
-        text += Byte(0x80U | (point >> (6 * following) & kContinuationBits));
-    }
-}
 
 char32_t TakeUtf8(std::string_view& text) {
     const Lead lead = LeadOf(static_cast<unsigned char>(text.front()));

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "platform/utf8.h"
+
 namespace zentar {
 namespace {
 
@@ -64,25 +66,6 @@ void AppendUtf16(std::uint32_t point, std::wstring& into) {
     into.push_back(static_cast<wchar_t>(kFirstLow + ((point - 0x10000) & 0x3FFU)));
 }
 
-void AppendUtf8(std::uint32_t point, std::string& into) {
-    const auto put = [&into](std::uint32_t byte) { into.push_back(static_cast<char>(byte)); };
-    if (point < 0x80) {
-        put(point);
-    } else if (point < 0x800) {
-        put(0xC0U | (point >> 6U));
-        put(0x80U | (point & 0x3FU));
-    } else if (point < 0x10000) {
-        put(0xE0U | (point >> 12U));
-        put(0x80U | ((point >> 6U) & 0x3FU));
-        put(0x80U | (point & 0x3FU));
-    } else {
-        put(0xF0U | (point >> 18U));
-        put(0x80U | ((point >> 12U) & 0x3FU));
-        put(0x80U | ((point >> 6U) & 0x3FU));
-        put(0x80U | (point & 0x3FU));
-    }
-}
-
 }  // namespace
 
 void WidenInto(std::string_view utf8, std::wstring& into) {
@@ -102,7 +85,7 @@ void NarrowInto(std::wstring_view utf16, std::string& into) {
             ++at;
             point = 0x10000 + ((point - kFirstHigh) << 10U) + (utf16[at] - kFirstLow);
         }
-        AppendUtf8(point, into);
+        AppendUtf8(into, point);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "platform/code_page.h"
 #include "platform/rtf/unicode.h"
+#include "platform/utf8.h"
 
 namespace zentar::testing {
 namespace {

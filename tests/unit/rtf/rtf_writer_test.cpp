@@ -8,6 +8,7 @@
 #include "platform/rtf/rtf_reader.h"
 #include "platform/rtf/rtf_writer.h"
 #include "platform/rtf/unicode.h"
+#include "platform/utf8.h"
 
 namespace zentar {
 namespace {
