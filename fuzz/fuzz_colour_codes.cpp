@@ -6,6 +6,7 @@
 #include <string>
 
 #include "q3tools/colour_codes.h"
+#include "tests/unit/q3tools/plain_strip.h"
 
 namespace {
 
@@ -15,24 +16,6 @@ void Require(bool holds) {
     if (!holds) {
         std::abort();
     }
-}
-
-// Place by place. What is left may look like a code anew: "^^11" leaves "^1".
-std::string PlainStrip(const std::string& text) {
-    std::string plain;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        const std::string two = text.substr(i, 2);
-        if (text.substr(i, 3) == "^^0") {
-            i += 3;
-        } else if (two.size() == 2 && two[0] == '^' && two[1] >= '0' && two[1] <= '7') {
-            i += 2;
-        } else {
-            plain += text[i];
-            ++i;
-        }
-    }
-    return plain;
 }
 
 // Without a caret in the text, stripping its code gives the text back. The OSP mods' black is no

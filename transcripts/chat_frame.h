@@ -52,8 +52,8 @@ class ChatFrame {
     Platform platform_;
     ChatFrameControls controls_;
     PlayerBoxes boxes_;
-    // What the next transcript is made of: the log that was scanned last and held names, or that the
-    // last transcript was made of. Empty for nothing.
+    // What the next transcript is made of: the log that was scanned last and held names, or that
+    // the last transcript was made of. Empty for nothing.
     std::string source_;
     // The system's colour dialog, file dialogs and message boxes let other procedures run.
     CommandGuard guard_;

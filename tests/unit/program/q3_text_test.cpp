@@ -98,6 +98,18 @@ TEST_F(Q3TextTest, WithoutItsFolderTheTabWorksAllTheSame) {
     Window().UserIn(IDC_rtbQ3Text);
     Window().UserType("x");
     EXPECT_EQ(Code(), "seta name \"^^0x^7\"");
+    EXPECT_FALSE(os.files.Exists(folder_));
+    os.windows.ExpectFileToSave({.title = "Save Quake 3 coloured text",
+                                 .folder = folder_,
+                                 .name = "x",
+                                 .kinds = {{"Quake 3 coloured text (*.ini)", "*.ini"}}},
+                                folder_ + "x.ini");
+    os.windows.Expect({"Error",
+                       "This coloured text couldn't be saved.\r\n\r\n"
+                       "The folder may be protected, or its drive may be full.",
+                       MessageIcon::Exclamation});
+    Window().UserClick(IDC_cmdQ3TextSave);
+    EXPECT_EQ(Code(), "seta name \"^^0x^7\"");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "q3tools/colour_codes.h"
+#include "tests/unit/q3tools/plain_strip.h"
 
 namespace zentar {
 namespace {
@@ -87,24 +88,6 @@ TEST(StripColourCodes, LeavesThePlainText) {
     // What is left is not looked at again.
     EXPECT_EQ(StripColourCodes("^^11"), "^1");
     EXPECT_EQ(StripColourCodes(std::string("^1\0\xFF^\0", 6)), std::string("\0\xFF^\0", 4));
-}
-
-// The same, as one would write it first.
-std::string PlainStrip(const std::string& text) {
-    std::string plain;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        if (text.substr(i, 3) == "^^0") {
-            i += 3;
-        } else if (text[i] == '^' && i + 1 < text.size() &&
-                   std::string("01234567").find(text[i + 1]) != std::string::npos) {
-            i += 2;
-        } else {
-            plain += text[i];
-            ++i;
-        }
-    }
-    return plain;
 }
 
 void CheckStrip(std::string& text, std::size_t length) {

@@ -109,6 +109,20 @@ TEST_F(Q3ConfigTest, TheCodeIsAppendedOnYesOnly) {
                                 "OpenForWriting " + config_, "Sound Information"}));
 }
 
+// What is missing first is told first.
+TEST_F(Q3ConfigTest, WithoutTheGameNobodyLooksForItsFile) {
+    os.files.Remove("C:\\Quake3\\quake3.exe");
+    os.files.Remove(config_);
+    os.windows.Expect({"Folder Error",
+                       "The correct folder for Quake3 is not specified!\r\n\r\n"
+                       "Zentar can't carry out the requested task because it doesn't\r\n"
+                       "know where Quake3 is.  Ensure that Quake3 is selected under\r\n"
+                       "the \"Game\" menu, followed by \"Specify Folder\".  Then browse\r\n"
+                       "to your Quake3 folder and try this function again.  Good luck!",
+                       MessageIcon::Exclamation});
+    Add();
+}
+
 TEST_F(Q3ConfigTest, TwiceIsTwoLines) {
     state.settings.Expert = 1;
     Add();

@@ -202,7 +202,16 @@ TEST(RtfReader, WhatIsNoTextIsPassedOver) {
                                    "shp",          "nonshppict",
                                    "bkmkstart",    "template",
                                    "listtable",    "listoverridetable",
-                                   "filetbl",      "revtbl"}) {
+                                   "filetbl",      "revtbl",
+                                   "aftncn",       "aftnsep",
+                                   "aftnsepc",     "annotation",
+                                   "bkmkend",      "footerf",
+                                   "footerl",      "ftncn",
+                                   "ftnsep",       "ftnsepc",
+                                   "generator",    "headerf",
+                                   "headerr",      "nextfile",
+                                   "private",      "rxe",
+                                   "tcn"}) {
         EXPECT_EQ(TextOf("a{\\" + std::string(word) + " b{c}\\par d;}e"), "ae") << word;
     }
 }

@@ -79,9 +79,11 @@ TEST_P(FormTablesTest, NothingOverlapsOrLeavesItsParentAtAnyResolutionOrSize) {
     }
 }
 
-TEST_P(FormTablesTest, EveryTextFieldAndListHasANameForScreenReaders) {
+TEST_P(FormTablesTest, WhatHasNoCaptionHasANameForScreenReaders) {
+    const std::set<ControlKind> without = {ControlKind::TextBox, ControlKind::ListBox,
+                                           ControlKind::RichTextBox, ControlKind::ColourButton};
     for (const ControlRow& row : table_.controls) {
-        if (row.kind == ControlKind::TextBox || row.kind == ControlKind::ListBox) {
+        if (without.contains(row.kind)) {
             EXPECT_STRNE(row.name, "") << row.id;
         }
     }
@@ -101,6 +103,24 @@ INSTANTIATE_TEST_SUITE_P(Windows, FormTablesTest,
                                            TableCase{"Form3", FullViewTable},
                                            TableCase{"Form4", PreferencesTable}),
                          [](const auto& window) { return std::string(window.param.name); });
+
+TEST(MainWindowTableTest, TheFramesThatOnlyHoldOptionsHaveNoBorders) {
+    for (const ControlRow& row : MainWindowTable().controls) {
+        if (row.kind == ControlKind::Frame) {
+            const bool plain = row.id == IDC_fraQ3Text || row.id == IDC_fraTextContain ||
+                               row.id == IDC_fraPreviewMode;
+            EXPECT_EQ((row.flags & Borderless) != 0, plain) << row.id;
+        }
+    }
+}
+
+TEST(MainWindowTableTest, TheCodeStandsInAFixedPitchOnAsManyLinesAsItNeeds) {
+    for (const ControlRow& row : MainWindowTable().controls) {
+        if (row.id == IDC_txtQ3TextCode) {
+            EXPECT_EQ(row.flags, ReadOnly | ManyLines | Monospaced);
+        }
+    }
+}
 
 TEST(FormTablesTogetherTest, NoNumberIsUsedTwiceInTheProgram) {
     std::set<int> seen;
