@@ -9,6 +9,8 @@ namespace zentar {
 // A colour as 0x00BBGGRR.
 using ColourRef = std::uint32_t;
 
+inline constexpr ColourRef kBlack = 0;
+
 // Colours that the user chose for the whole system; they may change while the program runs.
 enum class SystemColour : std::uint8_t { Window, WindowText, ButtonFace };
 

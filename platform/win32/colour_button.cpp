@@ -1,6 +1,7 @@
 #include "platform/win32/colour_button.h"
 
 #include "platform/win32/units.h"
+#include "platform/win32/win32_handle.h"
 
 namespace zentar {
 namespace {
@@ -10,7 +11,8 @@ constexpr int kMargin = 5;
 
 }  // namespace
 
-// The system draws a button without a caption, which the colour then covers.
+// The system draws a button without a caption, which the colour then covers. With visual styles it
+// says when.
 LRESULT Win32ColourButton::OnNotify(const NMHDR& header) {
     if (header.code != static_cast<UINT>(NM_CUSTOMDRAW)) {
         return CDRF_DODEFAULT;
@@ -20,13 +22,41 @@ LRESULT Win32ColourButton::OnNotify(const NMHDR& header) {
         return CDRF_NOTIFYPOSTPAINT;
     }
     if (drawing.dwDrawStage == CDDS_POSTPAINT) {
-        DrawFace(drawing);
+        DrawFace(drawing.hdc);
+        drawn_ = true;
     }
     return CDRF_DODEFAULT;
 }
 
-void Win32ColourButton::DrawFace(const NMCUSTOMDRAW& drawing) const {
-    const HDC context = drawing.hdc;
+// Without them it says nothing, and draws at once whatever changes how the button looks.
+std::optional<LRESULT> Win32ColourButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT:
+        case WM_ENABLE:
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+        case WM_UPDATEUISTATE:
+        case BM_SETSTATE:
+        case BM_SETSTYLE:
+            break;
+        default:
+            return Win32Button::OnMessage(message, wParam, lParam);
+    }
+    drawn_ = false;
+    std::optional<LRESULT> answer = Win32Button::OnMessage(message, wParam, lParam);
+    if (!answer) {
+        answer = PassOn(message, wParam, lParam);
+    }
+    if (!drawn_ && message == WM_PAINT) {
+        const WindowContext context(Handle());
+        DrawFace(context.Get());
+    } else if (!drawn_) {
+        Redraw(true);
+    }
+    return answer;
+}
+
+void Win32ColourButton::DrawFace(HDC context) const {
     const int margin = PixelsOfUnits(kMargin, dpi_);
     RECT face{};
     GetClientRect(Handle(), &face);

@@ -16,10 +16,14 @@ class Win32ColourButton : public Win32Button {
     LRESULT OnNotify(const NMHDR& header) override;
     void OnDpi(int dpi) override { dpi_ = dpi; }
 
+  protected:
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
   private:
-    void DrawFace(const NMCUSTOMDRAW& drawing) const;
+    void DrawFace(HDC context) const;
 
     int dpi_ = 96;
+    bool drawn_ = false;  // the face, by the message that is being handled
 };
 
 }  // namespace zentar

@@ -41,7 +41,7 @@ ControlWindow::ControlWindow(const ControlPlace& place)
 
 ControlWindow::~ControlWindow() { Detach(); }
 
-void ControlWindow::MakeWindow(HWND parent, const Rect& at) {
+void ControlWindow::MakeWindow(HWND parent, const Rect& at, HFONT font) {
     const ControlStyle kind = Style();
     const DWORD state = (unmade_.visible ? WS_VISIBLE : 0) | (unmade_.enabled ? 0 : WS_DISABLED);
     const HWND window = CreateWindowExW(
@@ -52,11 +52,13 @@ void ControlWindow::MakeWindow(HWND parent, const Rect& at) {
         return;
     }
     Attach(window);
+    // Before anything that is measured or coloured: another font changes both.
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    OnMade();
     if (!unmade_.tooltip.empty()) {
         host_.SetTooltipOf(handle_, unmade_.tooltip);
     }
     unmade_ = {};
-    OnMade();
 }
 
 void ControlWindow::Attach(HWND window) {

@@ -34,7 +34,7 @@ class ControlHost {
     virtual bool ShowsHourglass() const = 0;
 };
 
-// Where a control comes to stand.
+// What a control belongs to.
 struct ControlPlace {
     ControlHost& host;
     const ControlRow& row;
@@ -63,7 +63,7 @@ class ControlWindow {
     static ControlWindow* Of(HWND window);
 
     // The place is in pixels, inside the parent.
-    void MakeWindow(HWND parent, const Rect& at);
+    void MakeWindow(HWND parent, const Rect& at, HFONT font);
     // Null until it is made.
     HWND Handle() const { return handle_; }
     // Makes the window where there is none.
@@ -100,7 +100,7 @@ class ControlWindow {
 
   protected:
     virtual ControlStyle Style() const = 0;
-    // The window is there, but has neither its font nor been seen.
+    // The window is there with its font, but nobody has seen it yet.
     virtual void OnMade() {}
     // The control's own messages, before the system's window procedure, which gets those that it
     // does not answer.

@@ -1,7 +1,6 @@
 #include "platform/win32/list_box.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_text.h"
@@ -39,11 +38,6 @@ ControlStyle Win32ListBox::Style() const {
             WS_EX_CLIENTEDGE};
 }
 
-void Win32ListBox::OnMade() {
-    Fill(std::exchange(items_, {}));
-    Send(LB_SETCURSEL, static_cast<WPARAM>(selected_));
-}
-
 // The list itself stops to draw by the one call, its scroll bars by the other, which has a price
 // and is of no use while nobody sees the list.
 class Win32ListBox::DrawingStopped {
@@ -69,6 +63,16 @@ class Win32ListBox::DrawingStopped {
     const Win32ListBox& list_;
     bool seen_;
 };
+
+void Win32ListBox::OnMade() {
+    if (items_.empty()) {
+        return;
+    }
+    const DrawingStopped stopped(*this);
+    Fill(items_);
+    Send(LB_SETCURSEL, static_cast<WPARAM>(selected_));
+    items_.clear();
+}
 
 void Win32ListBox::SetItems(const std::vector<std::string>& items) {
     if (Handle() == nullptr) {
@@ -134,8 +138,7 @@ int Win32ListBox::SelectedIndex() const {
 
 void Win32ListBox::Select(int index) {
     if (Handle() == nullptr) {
-        // What is no entry of the list clears the selection, as in the system's.
-        selected_ = index < Count() ? index : -1;
+        selected_ = index;
     } else {
         Send(LB_SETCURSEL, static_cast<WPARAM>(index));
     }
@@ -156,7 +159,7 @@ int Win32ListBox::IndexAt(POINT screen) const {
 }
 
 void Win32ListBox::SelectAtPointer() {
-    if (KeyboardAsks()) {
+    if (Handle() == nullptr || KeyboardAsks()) {
         return;
     }
     POINT pointer{};

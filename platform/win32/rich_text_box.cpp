@@ -15,8 +15,6 @@
 namespace zentar {
 namespace {
 
-constexpr ColourRef kBlack = 0;
-
 bool IsDown(int key) { return GetKeyState(key) < 0; }
 
 // The message that the key stands for, of those about the clipboard.

@@ -16,7 +16,6 @@
 namespace zentar {
 namespace {
 
-constexpr ColourRef kBlack = 0;
 // No library of MinGW has it.
 constexpr GUID kTextDocumentId = {
     0x8CC497C0, 0xA1DF, 0x11CE, {0x80, 0x98, 0x00, 0xAA, 0x00, 0x47, 0xBE, 0x5D}};

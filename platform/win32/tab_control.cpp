@@ -60,12 +60,14 @@ void Win32TabControl::NoteSelection() {
     if (selected == known_ || selected < 0) {
         return;
     }
-    ControlWindow& oldPage = *pages_[static_cast<std::size_t>(std::exchange(known_, selected))];
-    ControlWindow& newPage = *pages_[static_cast<std::size_t>(selected)];
+    const ControlWindow& newPage = *pages_[static_cast<std::size_t>(selected)];
+    Host().NeedWindow(newPage.Row());
+    const ControlWindow& oldPage =
+        *pages_[static_cast<std::size_t>(std::exchange(known_, selected))];
     if (IsChild(oldPage.Handle(), GetFocus())) {
         SetFocus();
     }
-    ShowWindow(newPage.NeedWindow(), SW_SHOWNA);
+    ShowWindow(newPage.Handle(), SW_SHOWNA);
     ShowWindow(oldPage.Handle(), SW_HIDE);
     Raise(&ControlEvents::click);
 }

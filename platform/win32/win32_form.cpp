@@ -18,9 +18,11 @@ Win32Form::Win32Form(const FormTable& table, Win32Session& session)
     CreateFormWindow();
     focus_.SetForm(window_.Get());
     tooltips_.emplace(window_.Get(), session_.instance);
+    tooltips_->SetDpi(dpi_);
+    fonts_.emplace(dpi_);
+    TakeIcons();
     CreateControls();
     session_.forms.Add(*this);
-    ApplyDpi();
 }
 
 Win32Form::~Win32Form() {

@@ -85,6 +85,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     void CreateControl(const ControlRow& row);
     const ControlWindow* PageOf(const ControlRow& row) const;
     void MakeWindow(ControlWindow& control);
+    // Once all are made that are made together.
     void SetUp(ControlWindow& control) const;
     std::size_t IndexOf(const ControlRow& row) const {
         return static_cast<std::size_t>(&row - rows_.data());

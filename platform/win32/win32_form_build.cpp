@@ -79,6 +79,7 @@ void Win32Form::CreateControls() {
             CreateControl(row);
         }
     }
+    ForEachMade([this](ControlWindow& control) { SetUp(control); });
 }
 
 // The windows of a tab page wait until it is in front.
@@ -105,10 +106,17 @@ const ControlWindow* Win32Form::PageOf(const ControlRow& row) const {
 
 void Win32Form::NeedWindow(const ControlRow& row) {
     const ControlWindow* page = PageOf(row);
+    std::vector<ControlWindow*> made;
     for (const auto& control : controls_) {
         if (control->Handle() == nullptr && PageOf(control->Row()) == page) {
             MakeWindow(*control);
+            if (control->Handle() != nullptr) {
+                made.push_back(control.get());
+            }
         }
+    }
+    for (ControlWindow* control : made) {
+        SetUp(*control);
     }
 }
 
@@ -116,18 +124,18 @@ void Win32Form::MakeWindow(ControlWindow& control) {
     const ControlRow& row = control.Row();
     const ControlWindow* parent = FindControl(row.parent);
     const std::size_t index = IndexOf(row);
-    control.MakeWindow(parent == nullptr ? window_.Get() : parent->Handle(), places_[index]);
-    if (control.Handle() == nullptr) {
-        return;
+    control.MakeWindow(parent == nullptr ? window_.Get() : parent->Handle(), places_[index],
+                       FontOf(row));
+    if (control.Handle() != nullptr) {
+        focus_.AddControl(control.Handle(), index, row.kind != ControlKind::Tab);
     }
-    focus_.AddControl(control.Handle(), index, row.kind != ControlKind::Tab);
-    // Those made with the form are set up together.
-    if (fonts_) {
-        SetUp(control);
-        control.OnLayout();
-    }
+}
+
+void Win32Form::SetUp(ControlWindow& control) const {
+    control.OnDpi(dpi_);
+    control.OnLayout();
     if (named_) {
-        SetAccessibleName(control.Handle(), row.name);
+        SetAccessibleName(control.Handle(), control.Row().name);
     }
 }
 

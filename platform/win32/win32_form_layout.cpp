@@ -74,18 +74,16 @@ void Win32Form::MoveWindowTo(const RECT& place) const {
 void Win32Form::ApplyDpi() {
     // The controls still draw with the old fonts until each has its new one.
     const std::optional<Fonts> old = std::exchange(fonts_, Fonts(dpi_));
-    ForEachMade([this](ControlWindow& control) { SetUp(control); });
+    ForEachMade([this](ControlWindow& control) {
+        SendMessageW(control.Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(FontOf(control.Row())),
+                     FALSE);
+        control.OnDpi(dpi_);
+    });
     tooltips_->SetDpi(dpi_);
     TakeIcons();
     Layout();
     ForEachMade([](ControlWindow& control) { control.OnLayout(); });
     RedrawWindow(window_.Get(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-}
-
-void Win32Form::SetUp(ControlWindow& control) const {
-    SendMessageW(control.Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(FontOf(control.Row())),
-                 FALSE);
-    control.OnDpi(dpi_);
 }
 
 HFONT Win32Form::FontOf(const ControlRow& row) const {

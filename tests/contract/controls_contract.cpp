@@ -26,6 +26,12 @@ constexpr ControlRow PictureRow(int id, int parent, Rect rect, std::uint16_t fla
     return row;
 }
 
+constexpr ControlRow ColourRow(int id, int parent, Rect rect, ColourRef colour) {
+    ControlRow row = Row(id, Kind::ColourButton, parent, rect, "");
+    row.colour = colour;
+    return row;
+}
+
 constexpr ControlRow WithCursor(ControlRow row) {
     row.cursor = 1;
     return row;
@@ -70,15 +76,20 @@ constexpr std::array kControls = {
     WithCursor(Row(kImage, Kind::ImageBox, kPageOne, {10, 40, 120, 60}, "")),
     Row(kPageTwo, Kind::TabPage, kTabs, {}, "Two"),
     Row(kButtonTwo, Kind::Button, kPageTwo, {10, 10, 120, 24}, "Second"),
-    Row(kBehindCheck, Kind::CheckBox, kPageTwo, {10, 36, 60, 18}, "Check", StartsChecked),
+    Explained(Row(kBehindCheck, Kind::CheckBox, kPageTwo, {10, 36, 60, 18}, "Check", StartsChecked),
+              "Tick here."),
     Row(kBehindOptionA, Kind::OptionButton, kPageTwo, {10, 56, 60, 18}, "A", StartsChecked),
     Row(kBehindOptionB, Kind::OptionButton, kPageTwo, {10, 76, 60, 18}, "B"),
     Row(kBehindText, Kind::TextBox, kPageTwo, {10, 98, 60, 20}, "text"),
     Row(kBehindList, Kind::ListBox, kPageTwo, {80, 36, 60, 82}, ""),
     Row(kBehindFrame, Kind::Frame, kPageTwo, {150, 10, 60, 50}, "Frame"),
-    Row(kBehindLabel, Kind::Label, kBehindFrame, {6, 16, 48, 20}, "Label"),
+    Row(kBehindLabel, Kind::Label, kBehindFrame, {6, 16, 30, 20}, "Label"),
+    PictureRow(kBehindPicture, kBehindFrame, {38, 16, 16, 16}),
     WithCursor(Row(kBehindImage, Kind::ImageBox, kPageTwo, {150, 66, 60, 52}, "")),
-    Row(kBehindRich, Kind::RichTextBox, kPageTwo, {216, 10, 60, 108}, ""),
+    Row(kBehindRich, Kind::RichTextBox, kPageTwo, {216, 10, 60, 80}, "", Heading),
+    ColourRow(kBehindColour, kPageTwo, {216, 94, 60, 24}, 0x123456),
+    Row(kPageThree, Kind::TabPage, kTabs, {}, "Three"),
+    Row(kButtonThree, Kind::Button, kPageThree, {10, 10, 120, 24}, "Third"),
     TimerRow(kTimer, 20),
     Row(kRich, Kind::RichTextBox, 0, {10, 300, 250, 90}, "", Heading),
     Row(kReadOnlyText, Kind::TextBox, 0, {280, 300, 140, 22}, "read only", ReadOnly | Monospaced),

@@ -56,8 +56,8 @@ class ControlsWorld {
     virtual bool Shown(Form& form) = 0;
     // Whether a picture has lost its colours.
     virtual bool ShownGrey(Form& form, int picture) = 0;
-    // Whether something of a text box has exactly that colour.
-    virtual bool Shows(Form& form, int textBox, ColourRef colour) = 0;
+    // Whether something of a text box, or the face of a button, has exactly that colour.
+    virtual bool Shows(Form& form, int id, ColourRef colour) = 0;
     // What the mouse finds out about the control.
     virtual std::string Tooltip(Form& form, int id) = 0;
     // The control's upper edge in its parent, in twips.
@@ -104,9 +104,13 @@ enum ContractId {
     kBehindText,
     kBehindList,
     kBehindFrame,
-    kBehindLabel,  // in kBehindFrame
+    kBehindLabel,    // in kBehindFrame
+    kBehindPicture,  // likewise
     kBehindImage,
     kBehindRich,
+    kBehindColour,  // a button
+    kPageThree,
+    kButtonThree,
     kTimer,
     kRich,
     kReadOnlyText,

@@ -182,6 +182,55 @@ TEST_P(PageBehindContract, PicturesAndRichTextAreKept) {
     EXPECT_EQ(Events(), Noted{});
 }
 
+TEST_P(PageBehindContract, APictureIsThereAndGreyInADisabledFrame) {
+    ShowMain();
+    Main().GetTab(kTabs).SelectTab(1);
+    EXPECT_FALSE(World().ShownGrey(Main(), kBehindPicture));
+    Main().GetFrame(kBehindFrame).SetEnabled(false);
+    EXPECT_TRUE(World().ShownGrey(Main(), kBehindPicture));
+}
+
+TEST_P(PageBehindContract, APictureOfAFrameThatWasDisabledBeforeIsGrey) {
+    Main().GetFrame(kBehindFrame).SetEnabled(false);
+    ShowMain();
+    Main().GetTab(kTabs).SelectTab(1);
+    EXPECT_TRUE(World().ShownGrey(Main(), kBehindPicture));
+}
+
+TEST_P(PageBehindContract, AColourButtonShowsItsColour) {
+    ShowMain();
+    Main().GetTab(kTabs).SelectTab(1);
+    EXPECT_TRUE(World().Shows(Main(), kBehindColour, 0x123456));
+    EXPECT_FALSE(World().Shows(Main(), kBehindColour, 0x563412));
+    EXPECT_FALSE(World().Shows(Main(), kButtonTwo, 0x123456));
+}
+
+TEST_P(PageBehindContract, RichTextHasItsColoursAndBackground) {
+    constexpr ColourRef kOrange = 0x0080FF;
+    Main().GetRichTextBox(kBehindRich).SetBackground(kOrange);
+    Main().GetRichTextBox(kBehindRich).SetContent({{"MMMM", 0xFF0000}});
+    ShowMain();
+    Main().GetTab(kTabs).SelectTab(1);
+    EXPECT_TRUE(World().Shows(Main(), kBehindRich, kOrange));
+    EXPECT_TRUE(World().Shows(Main(), kBehindRich, 0xFF0000));
+}
+
+TEST_P(PageBehindContract, TooltipsOfTheTableAreThereUnlessTheyWereTakenAway) {
+    Main().GetButton(kButtonThree).SetTooltip("Third.");
+    ShowMain();
+    Main().GetTab(kTabs).SelectTab(1);
+    EXPECT_EQ(World().Tooltip(Main(), kBehindCheck), "Tick here.");
+    Main().GetTab(kTabs).SelectTab(2);
+    EXPECT_EQ(World().Tooltip(Main(), kButtonThree), "Third.");
+}
+
+TEST_P(PageBehindContract, ATooltipThatWasTakenAwayIsNotThere) {
+    Main().GetCheckBox(kBehindCheck).SetTooltip("");
+    ShowMain();
+    Main().GetTab(kTabs).SelectTab(1);
+    EXPECT_EQ(World().Tooltip(Main(), kBehindCheck), "");
+}
+
 TEST_P(PageBehindContract, NothingThereTakesTheFocus) {
     ShowMain();
     Main().GetTextBox(kBehindText).SetFocus();

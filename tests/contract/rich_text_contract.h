@@ -5,7 +5,6 @@
 
 namespace zentar {
 
-inline constexpr ColourRef kBlack = 0x000000;
 inline constexpr ColourRef kRed = 0x0000FF;
 inline constexpr ColourRef kGreen = 0x00FF00;
 inline constexpr ColourRef kWhite = 0xFFFFFF;

@@ -121,6 +121,14 @@ TEST_P(TextAndListContract, ATextThatIsSelectedOnFocusStaysSelectedAfterTheClick
     EXPECT_EQ(text.Text(), "x");
 }
 
+TEST_P(TextAndListContract, AVeryLongTextIsKeptWhole) {
+    const std::string text(100'000, 'x');
+    for (const int id : {kText, kManyLines}) {
+        Main().GetTextBox(id).SetText(text);
+        EXPECT_TRUE(Main().GetTextBox(id).Text() == text) << id;
+    }
+}
+
 TEST_P(TextAndListContract, AListShowsItsEntriesInTheirOrderAndSelectsNone) {
     NoteClicks(kList, "list");
     ListBox& list = Main().GetListBox(kList);

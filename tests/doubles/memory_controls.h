@@ -153,6 +153,9 @@ class MemoryButton : public MemoryControl<Button> {
   public:
     using MemoryControl::MemoryControl;
     void Clicked() override { Raise("click", &ControlEvents::click); }
+    bool Shows(ColourRef colour) const override {
+        return Row().kind == ControlKind::ColourButton && Row().colour == colour;
+    }
 };
 
 class MemoryCheckBox : public MemoryControl<CheckBox> {

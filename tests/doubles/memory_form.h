@@ -114,7 +114,8 @@ class MemoryForm : public Form, private ControlHost {
     // window.
     bool CanReach(int id) const { return Obstacle(id).empty(); }
     int TopTwips(int id) { return Core(id).TopTwips(); }
-    // Whether a character or the background of a text box has that colour.
+    // Whether a character or the background of a text box, or the face of a button, has that
+    // colour.
     bool Shows(int textBox, ColourRef colour) { return Core(textBox).Shows(colour); }
     bool AllSelected(int textBox) { return Get<MemoryTextBox>(textBox).AllSelected(); }
     std::vector<std::string> Items(int list) { return Get<MemoryListBox>(list).Items(); }

@@ -20,7 +20,6 @@ namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
-constexpr COLORREF kBlack = RGB(0, 0, 0);
 
 BitmapPtr MakePicture(Size size, const ColourAt& colour) {
     return ThePlatform().Services().pictures.Decode(BmpOf(size, colour));

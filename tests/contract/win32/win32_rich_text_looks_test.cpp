@@ -1,9 +1,8 @@
-// How the boxes of rich text of Windows come to be seen, and what they look like.
+// What the boxes of rich text of Windows look like.
 #include <windows.h>
 
 #include <richedit.h>
 
-#include <array>
 #include <string>
 
 #include "platform/win32/win32_handle.h"
@@ -43,6 +42,15 @@ TEST_F(Win32RichTextLooks, TheTabKeyComesAndGoesAndKeepsWhatIsSelected) {
     EXPECT_EQ(Box().Text(), "abc");
     Box().ColourSelection(kRed);
     EXPECT_EQ(Box().Content(), Rich({{"a", kBlack}, {"b", kRed}, {"c", kBlack}}));
+}
+
+// The selection stays seen while the user goes to the colours; nothing is dragged into the text.
+TEST_F(Win32RichTextLooks, TheEditorIsSetUpForColouring) {
+    const LONG_PTR style = GetWindowLongPtrW(Editor(), GWL_STYLE);
+    EXPECT_NE(style & ES_NOHIDESEL, 0);
+    EXPECT_NE(style & ES_NOOLEDRAGDROP, 0);
+    EXPECT_EQ(SendMessageW(Editor(), EM_GETLANGOPTIONS, 0, 0) & (IMF_AUTOFONT | IMF_AUTOKEYBOARD),
+              0);
 }
 
 TEST_F(Win32RichTextLooks, LookingAtTheContentMovesNothing) {
@@ -160,6 +168,17 @@ TEST(Win32RichTextWindow, TheBorderIsThatOfTextBoxes) {
         return colour;
     };
     EXPECT_EQ(edge(kRich, 0), edge(kManyLines, 0));
+    const COLORREF unfocused = edge(kManyLines, 0);
+    form->GetTextBox(kManyLines).SetFocus();
+    RichTextUser::Settle();
+    const COLORREF focused = edge(kManyLines, 0);
+    form->GetRichTextBox(kRich).SetFocus();
+    RichTextUser::Settle();
+    EXPECT_EQ(edge(kRich, 0), focused);
+    EXPECT_EQ(edge(kManyLines, 0), unfocused);
+    form->GetButton(kButton).SetFocus();
+    RichTextUser::Settle();
+    EXPECT_EQ(edge(kRich, 0), unfocused);
     EXPECT_NE(edge(kRich, 0), kOrange);
     EXPECT_EQ(edge(kRich, 1), kOrange);
     EXPECT_EQ(edge(kRich, 2), kOrange);

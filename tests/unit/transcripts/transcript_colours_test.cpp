@@ -10,7 +10,6 @@ namespace {
 using ::testing::ElementsAre;
 
 const ColourRef kRed = 0x0000FF;
-const ColourRef kBlack = 0x000000;
 const ColourRef kWhite = 0xFFFFFF;
 
 class TranscriptColoursTest : public ChatFrameTest {
