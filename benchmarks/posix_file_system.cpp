@@ -87,4 +87,18 @@ Result<std::unique_ptr<ReadableFile>> PosixFileSystem::OpenForReading(const std:
     return std::unique_ptr<ReadableFile>(std::make_unique<PosixFile>(file));
 }
 
+// Through to the disk, as on Windows.
+Status PosixFileSystem::Overwrite(const std::string& path, std::uint64_t offset,
+                                  std::string_view bytes) {
+    const int file = open(Native(path).c_str(), O_WRONLY | O_CLOEXEC);
+    if (file < 0) {
+        return LastError();
+    }
+    const bool written = pwrite(file, bytes.data(), bytes.size(), static_cast<off_t>(offset)) ==
+                             static_cast<ssize_t>(bytes.size()) &&
+                         fdatasync(file) == 0;
+    close(file);
+    return written ? Status() : Status(FileError::Other);
+}
+
 }  // namespace zentar

@@ -1,16 +1,19 @@
-// The host's file system, as far as listing and searching demos needs it.
+// The host's file system, as far as the benchmarks need it.
 #pragma once
 
 #include "platform/file_system.h"
 
 namespace zentar {
 
-// Takes paths with backslashes, as the program makes them. Changing anything fails.
+// Takes paths with backslashes, as the program makes them. Of what changes anything,
+// only Overwrite works.
 class PosixFileSystem : public FileSystem {
   public:
     Status Enumerate(const std::string& folder, const EntryVisitor& visit) override;
     Result<FileInfo> Info(const std::string& path) override;
     Result<std::unique_ptr<ReadableFile>> OpenForReading(const std::string& path) override;
+    Status Overwrite(const std::string& path, std::uint64_t offset,
+                     std::string_view bytes) override;
 
     Result<std::unique_ptr<WritableFile>> OpenForWriting(const std::string& /*path*/,
                                                          WriteMode /*mode*/) override {

@@ -46,8 +46,10 @@ class ReadableFile {
 class WritableFile {
   public:
     virtual ~WritableFile() = default;
-    virtual Status Write(std::string_view bytes) = 0;  // all of them, or a failure
-    virtual Status Flush() = 0;                        // through to the disk
+    // All of them, or a failure, after which the file is as long as it was before, as far as the
+    // disk still allows: half a line at the end of a file would be worse than none.
+    virtual Status Write(std::string_view bytes) = 0;
+    virtual Status Flush() = 0;  // through to the disk
     virtual Status Close() = 0;
 };
 
@@ -81,6 +83,11 @@ class FileSystem {
     // Puts `from` in the place of `to` in one step: whatever happens, `to` is either the old file
     // or the new one. `to` need not exist. Both are in one folder. Refuses a read-only `to`.
     virtual Status Replace(const std::string& from, const std::string& to) = 0;
+    // Writes bytes into a file from that offset on, in one piece and through to the disk; the
+    // others stay as they are. What goes beyond its end makes it longer. Fails with NotFound when
+    // there is no such file, and with Other when it ends before the offset.
+    virtual Status Overwrite(const std::string& path, std::uint64_t offset,
+                             std::string_view bytes) = 0;
     // Copies a file; AlreadyExists when `to` exists and `overwrite` is false.
     virtual Status Copy(const std::string& from, const std::string& to, bool overwrite) = 0;
     // Whether two paths lead to one and the same file: by another spelling, a link, or a drive that

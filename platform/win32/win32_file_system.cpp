@@ -207,6 +207,18 @@ Status Win32FileSystem::Replace(const std::string& from, const std::string& to) 
     return replaced;
 }
 
+Status Win32FileSystem::Overwrite(const std::string& path, std::uint64_t offset,
+                                  std::string_view bytes) {
+    const std::optional<std::wstring> native = NativePath(path);
+    if (!native) {
+        return FileError::NotFound;
+    }
+    if (!MayBeOverwritten(*native)) {
+        return FileError::AccessDenied;
+    }
+    return OverwriteFile(*native, offset, bytes);
+}
+
 Status Win32FileSystem::Copy(const std::string& from, const std::string& to, bool overwrite) {
     const std::optional<std::wstring> source = NativePath(from);
     const std::optional<std::wstring> target = TargetPath(to);

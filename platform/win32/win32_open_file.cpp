@@ -59,13 +59,16 @@ class Win32WritableFile : public WritableFile {
     explicit Win32WritableFile(UniqueFile file) : file_(std::move(file)) {}
 
     Status Write(std::string_view bytes) override {
+        std::int64_t done = 0;
         while (!bytes.empty()) {
             DWORD written = 0;
-            if (!WriteFile(file_.Get(), bytes.data(), Portion(bytes.size()), &written, nullptr)) {
-                return LastFileError();
-            }
-            if (written == 0) {
-                return FileError::NoSpace;
+            const bool went = WriteFile(file_.Get(), bytes.data(), Portion(bytes.size()), &written,
+                                        nullptr) != FALSE;
+            const Status failure = went ? FileError::NoSpace : LastFileError();
+            done += written;
+            if (!went || written == 0) {
+                TakeBack(done);
+                return failure;
             }
             bytes.remove_prefix(written);
         }
@@ -79,6 +82,15 @@ class Win32WritableFile : public WritableFile {
     Status Close() override { return file_.Reset() ? Status() : Status(LastFileError()); }
 
   private:
+    // The last bytes that were written, of a text whose rest did not go.
+    void TakeBack(std::int64_t bytes) {
+        LARGE_INTEGER back{};
+        back.QuadPart = -bytes;
+        if (bytes > 0 && SetFilePointerEx(file_.Get(), back, nullptr, FILE_CURRENT)) {
+            SetEndOfFile(file_.Get());
+        }
+    }
+
     UniqueFile file_;
 };
 
@@ -117,6 +129,28 @@ Result<std::unique_ptr<WritableFile>> OpenWritableFile(const std::wstring& nativ
         return LastFileError();
     }
     return std::unique_ptr<WritableFile>(std::make_unique<Win32WritableFile>(std::move(file)));
+}
+
+Status OverwriteFile(const std::wstring& nativePath, std::uint64_t offset, std::string_view bytes) {
+    const UniqueFile file(CreateFileW(nativePath.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER length{};
+    if (!file || !GetFileSizeEx(file.Get(), &length)) {
+        return LastFileError();
+    }
+    const auto end = static_cast<std::uint64_t>(length.QuadPart);
+    if (offset > end || bytes.size() > kLargestTransfer) {
+        return FileError::Other;
+    }
+    OVERLAPPED at{};
+    at.Offset = static_cast<DWORD>(offset);
+    at.OffsetHigh = static_cast<DWORD>(offset >> 32U);
+    DWORD written = 0;
+    if (!WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, &at) ||
+        !FlushFileBuffers(file.Get())) {
+        return LastFileError();
+    }
+    return written == bytes.size() ? Status() : Status(FileError::NoSpace);
 }
 
 }  // namespace zentar

@@ -58,6 +58,7 @@ class FileSystemContract : public testing::TestWithParam<FileWorldMaker> {
 using FileContentsContract = FileSystemContract;
 using FileOperationsContract = FileSystemContract;
 using FileNamesContract = FileSystemContract;
+using FileOverwriteContract = FileSystemContract;
 
 // Fails with what came instead.
 testing::AssertionResult Succeeded(const Status& status);

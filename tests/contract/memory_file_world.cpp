@@ -36,5 +36,6 @@ const auto kMemory = testing::Values(&MakeMemoryFileWorld);
 INSTANTIATE_TEST_SUITE_P(Memory, FileContentsContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FileOperationsContract, kMemory);
 INSTANTIATE_TEST_SUITE_P(Memory, FileNamesContract, kMemory);
+INSTANTIATE_TEST_SUITE_P(Memory, FileOverwriteContract, kMemory);
 
 }  // namespace zentar

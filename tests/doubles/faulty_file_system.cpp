@@ -78,6 +78,12 @@ Status FaultyFileSystem::Replace(const std::string& from, const std::string& to)
     return done;
 }
 
+Status FaultyFileSystem::Overwrite(const std::string& path, std::uint64_t offset,
+                                   std::string_view bytes) {
+    const Status begun = Begin("Overwrite " + path);
+    return begun.Ok() ? inner_.Overwrite(path, offset, bytes) : begun;
+}
+
 Status FaultyFileSystem::Copy(const std::string& from, const std::string& to, bool overwrite) {
     const Status begun = Begin("Copy " + from + " -> " + to);
     if (begun.Ok())

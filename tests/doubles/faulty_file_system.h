@@ -37,6 +37,8 @@ class FaultyFileSystem : public FileSystem {
     Status ClearAttributes(const std::string& path) override;
     Status Rename(const std::string& from, const std::string& to) override;
     Status Replace(const std::string& from, const std::string& to) override;
+    Status Overwrite(const std::string& path, std::uint64_t offset,
+                     std::string_view bytes) override;
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
     Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;
@@ -45,8 +47,7 @@ class FaultyFileSystem : public FileSystem {
     Result<std::uint64_t> FreeSpace(const std::string& root) override;
 
     // Calls are numbered from 1, those on opened files among them. A failed call does not reach the
-    // inner file system, but a Write or a Copy that fails with NoSpace has written half of its
-    // bytes.
+    // inner file system, but a Copy that fails with NoSpace has written half of its bytes.
     void FailAt(int call, FileError error);
     void FailFrom(int call, FileError error);
     // The program is killed at this call: neither it nor any later one reaches the inner file

@@ -34,15 +34,12 @@ Status FaultyWritableFile::Begin(const std::string& call) {
 
 Status FaultyWritableFile::Write(std::string_view bytes) {
     const Status begun = Begin("Write");
-    const bool diskFull = !begun.Ok() && begun.Error() == FileError::NoSpace;
-    if (!begun.Ok() && !diskFull)
+    if (!begun.Ok())
         return begun;
-    const std::string_view some = diskFull ? bytes.substr(0, bytes.size() / 2) : bytes;
-    if (!inner_)
-        return FileError::Other;
-    const Status done = inner_->Write(some);
-    written_->unflushed += some;
-    return diskFull ? begun : done;
+    const Status done = inner_->Write(bytes);
+    if (done.Ok())
+        written_->unflushed += bytes;
+    return done;
 }
 
 Status FaultyWritableFile::Flush() {

@@ -175,6 +175,28 @@ Status MemoryFileSystem::Replace(const std::string& from, const std::string& to)
     return {};
 }
 
+Status MemoryFileSystem::Overwrite(const std::string& path, std::uint64_t offset,
+                                   std::string_view bytes) {
+    Log("Overwrite " + path);
+    const Result<Node> node = FindFile(path);
+    if (!node.Ok())
+        return node.Error();
+    if (node.Value()->readOnly)
+        return FileError::AccessDenied;
+    if (node.Value()->Held())
+        return FileError::InUse;
+    MemoryNode& file = *node.Value();
+    const std::uint64_t before = file.bytes.Length();
+    if (offset > before)
+        return FileError::Other;
+    if (offset + bytes.size() > before + file.space->Free())
+        return FileError::NoSpace;
+    file.bytes.Overwrite(offset, bytes);
+    file.space->used += file.bytes.Length() - before;
+    node.Value()->lastWrite = clock_->Tick();
+    return {};
+}
+
 Status MemoryFileSystem::Copy(const std::string& from, const std::string& to, bool overwrite) {
     Log("Copy " + from + " -> " + to);
     const Result<Place> source = Find(from);

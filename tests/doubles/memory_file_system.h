@@ -31,6 +31,8 @@ class MemoryFileSystem : public FileSystem {
     Status ClearAttributes(const std::string& path) override;
     Status Rename(const std::string& from, const std::string& to) override;
     Status Replace(const std::string& from, const std::string& to) override;
+    Status Overwrite(const std::string& path, std::uint64_t offset,
+                     std::string_view bytes) override;
     Status Copy(const std::string& from, const std::string& to, bool overwrite) override;
     Result<bool> IsSameFile(const std::string& one, const std::string& other) override;
     Status Delete(const std::string& path) override;

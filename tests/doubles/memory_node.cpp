@@ -69,10 +69,11 @@ void MemoryNode::Empty() {
 }
 
 bool MemoryNode::Append(std::string_view more) {
-    const auto fits = static_cast<std::size_t>(std::min<std::uint64_t>(more.size(), space->Free()));
-    bytes.Append(more.substr(0, fits));
-    space->used += fits;
-    return fits == more.size();
+    if (more.size() > space->Free())
+        return false;
+    bytes.Append(more);
+    space->used += more.size();
+    return true;
 }
 
 bool MemoryNode::AppendZeros(std::uint64_t count) {

@@ -43,7 +43,7 @@ struct MemoryNode {
     MemoryNode& operator=(const MemoryNode&) = delete;
 
     void Empty();
-    // Appends what the drive has room for; false when that is not all of it.
+    // Appends all of it, or nothing where the drive has no room for it.
     bool Append(std::string_view more);
     bool AppendZeros(std::uint64_t count);
     FileInfo Info() const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace zentar {
 
@@ -14,6 +15,27 @@ void SparseBytes::Append(std::string_view bytes) {
         pieces_.emplace(length_, std::string());
     pieces_.rbegin()->second += bytes;
     length_ += bytes.size();
+}
+
+void SparseBytes::Overwrite(std::uint64_t offset, std::string_view bytes) {
+    // One piece from the first byte that any of them has to the last.
+    const auto near = [&](const auto& piece) {
+        return piece.first <= offset + bytes.size() && piece.first + piece.second.size() >= offset;
+    };
+    std::uint64_t begin = offset;
+    std::uint64_t end = offset + bytes.size();
+    for (const auto& piece : pieces_) {
+        if (near(piece)) {
+            begin = std::min(begin, piece.first);
+            end = std::max(end, piece.first + piece.second.size());
+        }
+    }
+    std::string joined(static_cast<std::size_t>(end - begin), '\0');
+    ReadAt(begin, std::as_writable_bytes(std::span(joined)));
+    joined.replace(static_cast<std::size_t>(offset - begin), bytes.size(), bytes);
+    std::erase_if(pieces_, near);
+    length_ = std::max(length_, offset + bytes.size());
+    pieces_.emplace(begin, std::move(joined));
 }
 
 void SparseBytes::Clear() {

@@ -15,6 +15,8 @@ class SparseBytes {
     std::uint64_t Length() const { return length_; }
     void Append(std::string_view bytes);
     void AppendZeros(std::uint64_t count) { length_ += count; }
+    // From an offset within what there is, or at its end.
+    void Overwrite(std::uint64_t offset, std::string_view bytes);
     void Clear();
 
     // How many bytes were read: fewer than asked for only at the end.

@@ -116,5 +116,6 @@ const auto kWin32 = testing::Values(&MakeWin32FileWorld);
 INSTANTIATE_TEST_SUITE_P(Win32, FileContentsContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FileOperationsContract, kWin32);
 INSTANTIATE_TEST_SUITE_P(Win32, FileNamesContract, kWin32);
+INSTANTIATE_TEST_SUITE_P(Win32, FileOverwriteContract, kWin32);
 
 }  // namespace zentar
