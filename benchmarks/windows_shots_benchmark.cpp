@@ -63,7 +63,8 @@ class Tab {
 
     Platform Services() {
         const Platform all = platform_.Services();
-        return {all.files, all.shell, quiet_, all.locale, all.images, all.pictures, all.forms};
+        return {all.files,  all.shell,    quiet_,       all.locale,
+                all.images, all.pictures, all.registry, all.forms};
     }
 
   private:

@@ -8,6 +8,7 @@ class FormFactory;
 class ImageLibrary;
 class Locale;
 class Pictures;
+class Registry;
 class Shell;
 class WindowServices;
 
@@ -18,6 +19,7 @@ struct Platform {
     Locale& locale;
     ImageLibrary& images;
     Pictures& pictures;
+    Registry& registry;
     FormFactory& forms;
 };
 

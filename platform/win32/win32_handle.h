@@ -131,6 +131,12 @@ struct ProcessHandleTraits {
     static bool Close(Type handle) { return CloseHandle(handle) != FALSE; }
 };
 
+struct RegistryKeyTraits {
+    using Type = HKEY;
+    static Type None() { return nullptr; }
+    static bool Close(Type handle) { return RegCloseKey(handle) == ERROR_SUCCESS; }
+};
+
 struct MemoryContextTraits {
     using Type = HDC;
     static Type None() { return nullptr; }
@@ -148,7 +154,8 @@ using UniqueIcon = UniqueHandle<IconHandleTraits>;
 using UniqueCursor = UniqueHandle<CursorHandleTraits>;
 using UniqueBitmap = UniqueHandle<BitmapHandleTraits>;
 using UniqueModule = UniqueHandle<ModuleHandleTraits>;
-using UniqueProcess = UniqueHandle<ProcessHandleTraits>;  // or one of its threads
+using UniqueProcess = UniqueHandle<ProcessHandleTraits>;  // or one of its threads, or its token
+using UniqueKey = UniqueHandle<RegistryKeyTraits>;
 using UniqueMemoryContext = UniqueHandle<MemoryContextTraits>;
 
 // A window's device context, given back at the end of the scope.

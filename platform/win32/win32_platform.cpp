@@ -16,7 +16,7 @@ Win32Platform::Win32Platform(HINSTANCE instance, LayoutFunction layout)
 }
 
 Platform Win32Platform::Services() {
-    return {files_, shell_, windows_, locale_, library_, pictures_, forms_};
+    return {files_, shell_, windows_, locale_, library_, pictures_, registry_, forms_};
 }
 
 int Win32Platform::RunMessageLoop() const { return session_.loop.Run(); }

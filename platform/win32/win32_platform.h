@@ -11,6 +11,7 @@
 #include "platform/win32/win32_image_library.h"
 #include "platform/win32/win32_locale.h"
 #include "platform/win32/win32_pictures.h"
+#include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_session.h"
 #include "platform/win32/win32_shell.h"
 #include "platform/win32/win32_window_services.h"
@@ -36,6 +37,7 @@ class Win32Platform {
     Win32Locale locale_;
     Win32ImageLibrary library_{shell_.WindowsFolder()};
     Win32Pictures pictures_{session_};
+    Win32Registry registry_{session_};
     Win32FormFactory forms_{session_};
 };
 

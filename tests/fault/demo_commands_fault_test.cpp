@@ -53,7 +53,8 @@ struct OneRun {
                       "Virgin=0\r\nGame=" + game +
                           "\r\nQ2Folder=C:\\Quake2\\\r\nQ3Folder=C:\\Quake3\\\r\nCurMod2=ctf\r\n"
                           "Remote=D:\\Remote\\\r\nExpert=1\r\n");
-        program.emplace(Platform{faulty, shell, windows, locale, images, pictures, forms});
+        program.emplace(
+            Platform{faulty, shell, windows, locale, images, pictures, registry, forms});
         program->Start();
         Window().Activate();
         Window().UserSelectTab(IDC_SSTab1, 1);
@@ -84,6 +85,7 @@ struct OneRun {
     FixedLocale locale;
     MemoryImageLibrary images{faulty, &log};
     MemoryPictures pictures;
+    MemoryRegistry registry;
     MemoryFormFactory forms{&log};
     std::optional<ZentarProgram> program;
     int menu = 0;

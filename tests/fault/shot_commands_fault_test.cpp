@@ -49,7 +49,8 @@ struct OneRun {
         files.AddFile("C:\\Zentar\\zentar.ini",
                       "Virgin=0\r\nGame=Quake2\r\nQ2Folder=C:\\Quake2\\\r\nCurMod2=ctf\r\n"
                       "Remote=D:\\Remote\\\r\nExpert=1\r\nAutoNextShot=1\r\n");
-        program.emplace(Platform{faulty, shell, windows, locale, images, pictures, forms});
+        program.emplace(
+            Platform{faulty, shell, windows, locale, images, pictures, registry, forms});
         program->Start();
         Window().Activate();
         Window().UserSelect(IDC_lstScreenshots, "a.tga");
@@ -77,6 +78,7 @@ struct OneRun {
     FixedLocale locale;
     MemoryImageLibrary images{faulty, &log};
     MemoryPictures pictures;
+    MemoryRegistry registry;
     MemoryFormFactory forms{&log};
     std::optional<ZentarProgram> program;
 };
