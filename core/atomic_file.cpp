@@ -10,8 +10,15 @@ constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 }  // namespace
 
-FileReplacement::FileReplacement(FileSystem& files, std::string path, Durability durability)
-    : files_(files), path_(std::move(path)), temporary_(path_ + ".new"), durability_(durability) {
+FileReplacement::FileReplacement(FileSystem& files, const std::string& path, Durability durability)
+    : FileReplacement(files, path, path + ".new", durability) {}
+
+FileReplacement::FileReplacement(FileSystem& files, std::string path, std::string temporary,
+                                 Durability durability)
+    : files_(files),
+      path_(std::move(path)),
+      temporary_(std::move(temporary)),
+      durability_(durability) {
     Result<std::unique_ptr<WritableFile>> file =
         files_.OpenForWriting(temporary_, WriteMode::Truncate);
     if (file.Ok()) {
@@ -65,12 +72,17 @@ Status FileReplacement::CloseChecked() {
     return info.Value().length == length_ ? Status() : Status(FileError::NoSpace);
 }
 
-Status FileReplacement::Finish() {
+Status FileReplacement::Complete() {
     WriteOut(std::exchange(waiting_, {}));
-    if (status_.Ok()) {
+    if (status_.Ok() && !complete_) {
         status_ = CloseChecked();
+        complete_ = status_.Ok();
     }
-    if (status_.Ok()) {
+    return status_;
+}
+
+Status FileReplacement::Finish() {
+    if (Complete().Ok()) {
         status_ = files_.Replace(temporary_, path_);
     }
     finished_ = status_.Ok();

@@ -15,19 +15,23 @@ enum class Durability : std::uint8_t {
     Cached,   // for what the program can make again: after a power cut the file may be empty
 };
 
-// A file written piece by piece under a temporary name in the same folder (the path and ".new"),
-// then flushed, checked, and put in the place of `path` in one step. Without that step `path` is
-// untouched and the temporary file is gone, as far as the disk still allows.
+// A file written piece by piece under a temporary name in the same folder (the path and ".new",
+// unless given), then flushed, checked, and put in the place of `path` in one step. Without that
+// step `path` is untouched and the temporary file is gone, as far as the disk still allows.
 class FileReplacement {
   public:
-    FileReplacement(FileSystem& files, std::string path,
+    FileReplacement(FileSystem& files, const std::string& path,
+                    Durability durability = Durability::Flushed);
+    FileReplacement(FileSystem& files, std::string path, std::string temporary,
                     Durability durability = Durability::Flushed);
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    // What fails first is what Finish gives; nothing is written from then on.
+    // What fails first is what Complete and Finish give; nothing is written from then on.
     void Write(std::string_view bytes);
+    // Closes the temporary file, whole. For those who do something between this and Finish.
+    [[nodiscard]] Status Complete();
     [[nodiscard]] Status Finish();
 
   private:
@@ -43,6 +47,7 @@ class FileReplacement {
     std::string waiting_;  // not yet handed to the file
     std::uint64_t length_ = 0;
     bool opened_ = false;
+    bool complete_ = false;
     bool finished_ = false;
 };
 

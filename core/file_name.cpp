@@ -32,6 +32,15 @@ std::string_view FileNameOf(std::string_view path) {
     return path.substr(path.find_last_of(kSeparators) + 1);
 }
 
+std::string_view StemOf(std::string_view path) {
+    std::string_view name = FileNameOf(path);
+    for (int characters = 0; characters < 4 && !name.empty();) {
+        characters += (static_cast<unsigned char>(name.back()) & 0xC0U) == 0x80U ? 0 : 1;
+        name.remove_suffix(1);
+    }
+    return name;
+}
+
 std::string DriveOf(std::string_view path) {
     constexpr std::size_t kLetter = 2;
     if (!path.starts_with(R"(\\)")) {

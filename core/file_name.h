@@ -23,6 +23,8 @@ bool HoldsIllegalCharacter(std::string_view name);
 // "C:\Games\duel.dm2" as "C:\Games\" and "duel.dm2".
 std::string_view FolderOf(std::string_view path);
 std::string_view FileNameOf(std::string_view path);
+// The file name without its last four characters: those of an extension such as ".ini".
+std::string_view StemOf(std::string_view path);
 
 // What tells the drives of two paths apart: "c:", or "\\server\share" of a folder of the network,
 // in lower case.

@@ -15,7 +15,8 @@ inline constexpr std::string_view kQuake1 = "Quake1";
 inline constexpr std::string_view kQuake2 = "Quake2";
 inline constexpr std::string_view kQuake3 = "Quake3";
 inline constexpr std::size_t kGameCount = 3;
-inline constexpr std::size_t kQuake3Row = 2;  // in AllGames()
+inline constexpr std::size_t kQuake2Row = 1;  // in AllGames()
+inline constexpr std::size_t kQuake3Row = 2;
 
 struct GameInfo {
     std::string_view id;

@@ -1,5 +1,6 @@
 #include "core/questions.h"
 
+#include "core/file_reading.h"
 #include "platform/file_system.h"
 
 namespace zentar {
@@ -20,6 +21,12 @@ bool MayChangeFile(const Platform& platform, const std::string& path,
     // If that is refused, so is what was to be done, and its message says why.
     IgnoreFailure(platform.files.ClearAttributes(path));
     return true;
+}
+
+bool MayReplaceFile(const ProgramState& state, const Platform& platform, const std::string& path,
+                    const Message& question, const Message& readOnlyQuestion) {
+    return !FileExists(platform.files, path) || (Confirmed(state, platform.windows, question) &&
+                                                 MayChangeFile(platform, path, readOnlyQuestion));
 }
 
 }  // namespace zentar

@@ -18,4 +18,9 @@ namespace zentar {
 [[nodiscard]] bool MayChangeFile(const Platform& platform, const std::string& path,
                                  const Message& readOnlyQuestion);
 
+// Both for a file that is about to be replaced. One that is not there may be.
+[[nodiscard]] bool MayReplaceFile(const ProgramState& state, const Platform& platform,
+                                  const std::string& path, const Message& question,
+                                  const Message& readOnlyQuestion);
+
 }  // namespace zentar

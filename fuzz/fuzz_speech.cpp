@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "core/console_lines.h"
 #include "fuzz/odd_file.h"
 #include "fuzz/plain_speech.h"
-#include "transcripts/console_lines.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/speech_line.h"
 

@@ -190,6 +190,9 @@ class ListBox : public Control {
     // Selects the entry under the mouse pointer, as a left click there would; nothing happens where
     // there is none.
     virtual void SelectAtPointer() = 0;
+    // Scrolls so that this entry is the first one that is seen, as far as there are entries to fill
+    // the list below it.
+    virtual void ShowFirst(int index) = 0;
     virtual void SetBackground(SystemColour colour) = 0;
     virtual SystemColour Background() const = 0;
 };

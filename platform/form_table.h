@@ -58,6 +58,7 @@ enum ControlFlags : std::uint16_t {
     ReadOnly = 512,       // text boxes: the user selects and copies, but does not edit
     ManyLines = 1024,     // text boxes: breaks lines, and scrolls up and down
     Monospaced = 2048,    // text boxes: Courier New
+    PairsOfAmpersands = 4096,  // labels: two ampersands stand for one
 };
 
 struct ControlRow {
@@ -94,15 +95,19 @@ enum class FormKind : std::uint8_t {
     Dialog,
     Splash,
     FullScreen,  // covers the screen that the window in front is on, black where it shows nothing
+    // Stands beside the main window, at first in the screen's upper right corner, and can be made
+    // larger; Escape closes it.
+    Companion,
 };
 
 struct FormTable {
     int id = 0;
     FormKind kind = FormKind::Main;
     const char* caption = "";
-    Size clientSize{};  // designed size; also the smallest of a Main window
+    Size clientSize{};  // designed size; also the smallest of a Main or Companion window
     std::span<const ControlRow> controls{};
     std::span<const MenuRow> menus{};
+    Size outerSize{};  // of the whole window at first; empty: as clientSize asks for
 };
 
 // Gives each row's rectangle in pixels, relative to its parent's client area, for a window of the

@@ -54,6 +54,9 @@ class Shell {
     // user who declines is an ordinary failure. An existing `to` is replaced.
     virtual Status CopyElevated(const std::string& from, const std::string& to) = 0;
     virtual Status DeleteElevated(const std::vector<std::string>& paths) = 0;
+
+    // Restarts the system. Asks every program to end, this one too, and does not wait for that.
+    virtual Status RestartWindows() = 0;
 };
 
 }  // namespace zentar

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/console_lines.h"
 #include "core/game_folders.h"
 #include "core/game_text.h"
 #include "core/hourglass.h"
@@ -12,7 +13,6 @@
 #include "platform/shell.h"
 #include "platform/window_services.h"
 #include "q3tools/colour_codes.h"
-#include "transcripts/console_lines.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/transcript_file.h"
 #include "transcripts/transcript_messages.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "transcripts/console_lines.h"
+#include "core/console_lines.h"
 
 namespace zentar {
 

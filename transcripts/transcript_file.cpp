@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "core/atomic_file.h"
+#include "core/console_lines.h"
 #include "core/text.h"
-#include "transcripts/console_lines.h"
 
 namespace zentar {
 namespace {

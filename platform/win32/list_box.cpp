@@ -170,6 +170,8 @@ void Win32ListBox::SelectAtPointer() {
     }
 }
 
+void Win32ListBox::ShowFirst(int index) { Send(LB_SETTOPINDEX, static_cast<WPARAM>(index)); }
+
 void Win32ListBox::SetBackground(SystemColour colour) {
     if (colours_.SetBackground(colour)) {
         Redraw(true);

@@ -17,6 +17,7 @@ class Win32ListBox : public ControlBase<ListBox> {
     int SelectedIndex() const override;
     void Select(int index) override;
     void SelectAtPointer() override;
+    void ShowFirst(int index) override;
     void SetBackground(SystemColour colour) override;
     SystemColour Background() const override {
         return std::get<SystemColour>(colours_.Background());

@@ -139,6 +139,9 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     std::optional<LRESULT> OnSystemColours(WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> OnTimer(WPARAM wParam, LPARAM lParam);
 
+    bool CanGrow() const {
+        return table_.kind == FormKind::Main || table_.kind == FormKind::Companion;
+    }
     bool MayRunOutermost() const;
     void TryToClose();
     void Hide();

@@ -40,6 +40,7 @@ const wchar_t* FormClass(HINSTANCE instance, WNDPROC procedure) {
 FormStyle FormStyle::Of(FormKind kind) {
     switch (kind) {
         case FormKind::Main:
+        case FormKind::Companion:
             return {WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
         case FormKind::Dialog:
             return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,

@@ -77,7 +77,7 @@ bool Win32Form::OnKeyDown(const MSG& message) {
         case VK_RETURN:
             return repeated || OnEnter(control);
         case VK_ESCAPE:
-            if (table_.kind == FormKind::Dialog) {
+            if (table_.kind == FormKind::Dialog || table_.kind == FormKind::Companion) {
                 PostMessageW(window_.Get(), WM_CLOSE, 0, 0);
             }
             return true;

@@ -44,6 +44,10 @@ SIZE Win32Form::FrameSize(SIZE client) const {
 }
 
 SIZE Win32Form::DesignedSize() const {
+    if (table_.outerSize != Size{}) {
+        return {PixelsOfUnits(table_.outerSize.width, dpi_),
+                PixelsOfUnits(table_.outerSize.height, dpi_)};
+    }
     return FrameSize({PixelsOfUnits(table_.clientSize.width, dpi_),
                       PixelsOfUnits(table_.clientSize.height, dpi_)});
 }
@@ -53,12 +57,16 @@ SIZE Win32Form::DesignedSizeOnScreen() const {
     return Within(DesignedSize(), WorkArea(window_.Get()));
 }
 
-// In the middle of the screen, or of the window below; or all of the screen.
+// In the middle of the screen, or of the window below; or in a corner or all of the screen.
 RECT Win32Form::FirstPlace(HWND over) const {
     if (table_.kind == FormKind::FullScreen) {
         return MonitorOf(over).rcMonitor;
     }
     const RECT area = WorkArea(over);
+    if (table_.kind == FormKind::Companion) {
+        const SIZE size = Within(DesignedSize(), area);
+        return {area.right - size.cx, area.top, area.right, area.top + size.cy};
+    }
     RECT middle = area;
     if (over != nullptr) {
         GetWindowRect(over, &middle);

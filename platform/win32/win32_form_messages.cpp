@@ -96,7 +96,7 @@ std::optional<LRESULT> Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
     }
     const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
     SIZE size{suggested.right - suggested.left, suggested.bottom - suggested.top};
-    if (table_.kind != FormKind::Main) {
+    if (!CanGrow()) {
         // The frame does not grow in step with the rest.
         size = DesignedSize();
     }
@@ -121,7 +121,7 @@ std::optional<LRESULT> Win32Form::OnEndSession(WPARAM wParam, LPARAM /*lParam*/)
 }
 
 std::optional<LRESULT> Win32Form::OnMinMaxInfo(WPARAM /*wParam*/, LPARAM lParam) {
-    if (table_.kind != FormKind::Main) {
+    if (!CanGrow()) {
         return std::nullopt;
     }
     const SIZE smallest = DesignedSizeOnScreen();

@@ -14,6 +14,7 @@
 #include "platform/win32/shell_item.h"
 #include "platform/win32/task_memory.h"
 #include "platform/win32/win32_file_error.h"
+#include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_path.h"
 #include "platform/win32/win32_text.h"
 
@@ -51,6 +52,24 @@ std::optional<std::string> PathOfPicked(PCIDLIST_ABSOLUTE picked) {
         return SHCreateItemFromIDList(picked, IID_IShellItem, reinterpret_cast<void**>(made));
     });
     return item ? PathOf(*item) : std::nullopt;
+}
+
+// Every user may restart the system, but a program must say that it is about to.
+Status TakeRestartRight() {
+    HANDLE opened = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY, &opened)) {
+        return LastFileError();
+    }
+    const UniqueProcess token(opened);
+    TOKEN_PRIVILEGES rights{};
+    rights.PrivilegeCount = 1;
+    rights.Privileges[0].Attributes = SE_PRIVILEGE_ENABLED;
+    if (!LookupPrivilegeValueW(nullptr, SE_SHUTDOWN_NAME, &rights.Privileges[0].Luid) ||
+        !AdjustTokenPrivileges(token.Get(), FALSE, &rights, 0, nullptr, nullptr)) {
+        return LastFileError();
+    }
+    // A right that is not to be had makes the restart fail.
+    return {};
 }
 
 // Has the system's program for it open something, and does not wait for that.
@@ -149,6 +168,15 @@ Status Win32Shell::SetWallpaper(const std::string& path) {
 Status Win32Shell::CopyElevated(const std::string& from, const std::string& to) {
     session_.ole.Need();
     return CopyAsAdministrator(from, to, session_.forms.DialogOwner());
+}
+
+Status Win32Shell::RestartWindows() {
+    if (const Status may = TakeRestartRight(); !may.Ok()) {
+        return may;
+    }
+    return ExitWindowsEx(EWX_REBOOT, SHTDN_REASON_MAJOR_APPLICATION | SHTDN_REASON_FLAG_PLANNED)
+               ? Status()
+               : Status(LastFileError());
 }
 
 Status Win32Shell::DeleteElevated(const std::vector<std::string>& paths) {

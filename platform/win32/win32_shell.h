@@ -20,6 +20,7 @@ class Win32Shell : public Shell {
     Status SetWallpaper(const std::string& path) override;
     Status CopyElevated(const std::string& from, const std::string& to) override;
     Status DeleteElevated(const std::vector<std::string>& paths) override;
+    Status RestartWindows() override;
 
   private:
     Win32Session& session_;

@@ -60,6 +60,8 @@ class ControlsWorld {
     virtual bool Shows(Form& form, int id, ColourRef colour) = 0;
     // What the mouse finds out about the control.
     virtual std::string Tooltip(Form& form, int id) = 0;
+    // The entry at the upper edge of a list.
+    virtual int FirstShown(Form& form, int list) = 0;
     // The control's upper edge in its parent, in twips.
     virtual int TopTwips(Form& form, int id) = 0;
 

@@ -92,6 +92,9 @@ class MemoryControlsWorld : public ControlsWorld {
         return InMemory(form).Shows(textBox, colour);
     }
     std::string Tooltip(Form& form, int id) override { return InMemory(form).Tooltip(id); }
+    int FirstShown(Form& form, int list) override {
+        return dynamic_cast<MemoryListBox&>(form.GetListBox(list)).FirstShown();
+    }
     int TopTwips(Form& form, int id) override { return InMemory(form).TopTwips(id); }
 
     BitmapPtr MakeBitmap(Size size) override {

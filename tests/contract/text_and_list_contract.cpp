@@ -121,6 +121,26 @@ TEST_P(TextAndListContract, ATextThatIsSelectedOnFocusStaysSelectedAfterTheClick
     EXPECT_EQ(text.Text(), "x");
 }
 
+TEST_P(TextAndListContract, AListScrollsToAnEntry) {
+    ListBox& list = Main().GetListBox(kList);
+    std::vector<std::string> items;
+    for (int i = 0; i < 100; ++i)
+        items.push_back("entry " + std::to_string(i));
+    list.SetItems(items);
+    list.ShowFirst(40);
+    ShowMain();
+    EXPECT_EQ(World().FirstShown(Main(), kList), 40);
+    EXPECT_EQ(list.SelectedIndex(), -1);
+    list.Select(42);
+    EXPECT_EQ(World().FirstShown(Main(), kList), 40);
+    list.ShowFirst(0);
+    EXPECT_EQ(World().FirstShown(Main(), kList), 0);
+    EXPECT_EQ(list.SelectedIndex(), 42);
+    list.ShowFirst(40);
+    list.SetItems(items);
+    EXPECT_EQ(World().FirstShown(Main(), kList), 0);
+}
+
 TEST_P(TextAndListContract, AVeryLongTextIsKeptWhole) {
     const std::string text(100'000, 'x');
     for (const int id : {kText, kManyLines}) {

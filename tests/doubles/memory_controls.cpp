@@ -208,6 +208,7 @@ void MemoryListBox::SetItems(const std::vector<std::string>& items) {
     items_ = items;
     selected_ = -1;
     entryAtPointer_ = -1;
+    firstShown_ = 0;
 }
 
 void MemoryListBox::CheckIndex(int index) const {
@@ -241,6 +242,12 @@ void MemoryListBox::SelectAtPointer() {
     Log("SelectAtPointer()");
     if (entryAtPointer_ >= 0 && entryAtPointer_ < Count())
         Change(entryAtPointer_);
+}
+
+void MemoryListBox::ShowFirst(int index) {
+    Log(Call("ShowFirst", index));
+    CheckIndex(index);
+    firstShown_ = index;
 }
 
 void MemoryListBox::SetBackground(SystemColour colour) {

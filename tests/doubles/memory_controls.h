@@ -225,10 +225,14 @@ class MemoryListBox : public MemoryControl<ListBox> {
     int SelectedIndex() const override { return selected_; }
     void Select(int index) override;
     void SelectAtPointer() override;
+    void ShowFirst(int index) override;
     void SetBackground(SystemColour colour) override;
     SystemColour Background() const override { return background_; }
 
     const std::vector<std::string>& Items() const { return items_; }
+    // The entry that ShowFirst named last, as if the list were high enough for one; filling the
+    // list anew shows the first one.
+    int FirstShown() const { return firstShown_; }
     // Which entry the mouse pointer is over, -1 for none.
     void SetEntryAtPointer(int index) { entryAtPointer_ = index; }
     // As Select, but by the user.
@@ -241,6 +245,7 @@ class MemoryListBox : public MemoryControl<ListBox> {
     std::vector<std::string> items_;
     int selected_ = -1;
     int entryAtPointer_ = -1;
+    int firstShown_ = 0;
 };
 
 class MemoryTab : public MemoryControl<TabControl> {

@@ -89,6 +89,12 @@ Status ScriptedShell::CopyElevated(const std::string& from, const std::string& t
     return copyElevated ? copyElevated(from, to) : FileError::AccessDenied;
 }
 
+Status ScriptedShell::RestartWindows() {
+    Log("RestartWindows");
+    ++restarts;
+    return restartAnswer;
+}
+
 Status ScriptedShell::DeleteElevated(const std::vector<std::string>& paths) {
     Log("DeleteElevated " + std::to_string(paths.size()));
     return deleteElevated ? deleteElevated(paths) : FileError::AccessDenied;

@@ -37,6 +37,7 @@ class ScriptedShell : public Shell {
     Status SetWallpaper(const std::string& path) override;
     Status CopyElevated(const std::string& from, const std::string& to) override;
     Status DeleteElevated(const std::vector<std::string>& paths) override;
+    Status RestartWindows() override;
 
     // The next folder dialog has this title; the user picks the folder, or cancels.
     void ExpectPick(const std::string& title, std::optional<std::string> picked);
@@ -57,6 +58,8 @@ class ScriptedShell : public Shell {
     std::string temporaryFolder = "C:\\Temp";
     std::string wallpaper;     // the one that the user has
     Status wallpaperAnswer{};  // so the next ones end
+    int restarts = 0;          // of the system
+    Status restartAnswer{};
     // What an administrator does; without one, the user declines.
     std::function<Status(const std::string& from, const std::string& to)> copyElevated;
     std::function<Status(const std::vector<std::string>& paths)> deleteElevated;

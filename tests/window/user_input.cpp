@@ -51,6 +51,16 @@ POINT CentreOfItem(HWND listBox, int index) {
     return place;
 }
 
+void ScrollTo(HWND listBox, int index) {
+    RECT seen{};
+    GetClientRect(listBox, &seen);
+    RECT area{};
+    Send(listBox, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&area));
+    if (area.top < seen.top || area.bottom > seen.bottom) {
+        Send(listBox, LB_SETTOPINDEX, static_cast<WPARAM>(index));
+    }
+}
+
 void MovePointer(POINT place) {
     const LONG width = GetSystemMetrics(SM_CXSCREEN);
     const LONG height = GetSystemMetrics(SM_CYSCREEN);

@@ -12,6 +12,8 @@ enum class MouseButton { Left, Right };
 POINT CentreOf(HWND window);
 // The middle of an entry of a list box, which must be in view.
 POINT CentreOfItem(HWND listBox, int index);
+// Scrolls a list so that this entry can be seen, unless it can be.
+void ScrollTo(HWND listBox, int index);
 
 void MovePointer(POINT place);
 void Click(POINT place, MouseButton button = MouseButton::Left);

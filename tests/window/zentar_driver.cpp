@@ -136,7 +136,10 @@ int ZentarDriver::IndexOf(int listBox, const std::string& item) const {
 }
 
 void ZentarDriver::ClickItem(int listBox, const std::string& item) const {
-    Click(CentreOfItem(Control(listBox), IndexOf(listBox, item)));
+    const HWND list = Control(listBox);
+    const int index = IndexOf(listBox, item);
+    ScrollTo(list, index);
+    Click(CentreOfItem(list, index));
     Settle();
 }
 

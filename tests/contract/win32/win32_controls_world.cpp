@@ -225,6 +225,10 @@ class Win32ControlsWorld : public ControlsWorld {
         return TooltipOf(Top(form), Of(form, id));
     }
 
+    int FirstShown(Form& form, int list) override {
+        return static_cast<int>(SendMessageW(Of(form, list), LB_GETTOPINDEX, 0, 0));
+    }
+
     int TopTwips(Form& form, int id) override {
         const HWND control = Of(form, id);
         RECT rect{};

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "core/console_lines.h"
 #include "tests/doubles/memory_file_system.h"
-#include "transcripts/console_lines.h"
 
 namespace zentar {
 namespace {

@@ -1,4 +1,4 @@
-#include "transcripts/console_lines.h"
+#include "core/console_lines.h"
 
 #include <emmintrin.h>
 

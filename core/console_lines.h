@@ -1,4 +1,5 @@
-// The lines of a console dump or log, one after the other, however large the file.
+// The lines of a game's text file, one after the other, however large it is: a console dump or log,
+// a configuration, a backup of one.
 //
 // CR and LF each end a line, so that a pair of them makes an empty line besides; what stands behind
 // the last of them is no line yet. The game may be writing the file meanwhile: what is appended
@@ -21,13 +22,13 @@ class ConsoleLines {
     explicit ConsoleLines(ReadableFile& file);
 
     // The next line without its end, valid until the next call; nothing at the file's end, or where
-    // it cannot be read on. Lines longer than kLongest are passed over: no game writes one, and
-    // they would take memory without limit.
+    // it cannot be read on. Lines longer than kLongest are passed over: no game writes one, nor
+    // reads it, and they would take memory without limit.
     std::optional<std::string_view> Next();
     // The file could not be read to its end.
     bool Failed() const { return failed_; }
 
-    // The console of a game holds far less.
+    // The console of a game holds far less, and a line of a configuration 1,024 at most.
     static constexpr std::size_t kLongest = 65'536;
 
   private:
