@@ -50,6 +50,9 @@ void GameSelection::RefreshGame() {
     if (const GameInfo* info = state_.Info()) {
         ShowGameAsSelected(*info);
         SetContext(*info, *state_.Game());
+        if (info->id == kQuake3) {
+            followers_.DescribeBackups();
+        }
         followers_.FillDemoFilterList(*info);
         followers_.ArrangeChatFrame(*info);
         followers_.ArrangeDemoInstaller(*info);

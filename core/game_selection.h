@@ -18,6 +18,8 @@ class GameFollowers {
     virtual ~GameFollowers() = default;
     // The phrases that the demo filter offers become the game's map names.
     virtual void FillDemoFilterList(const GameInfo& game) = 0;
+    // Quake 3 is the current game: the folder of its backups says what it is for.
+    virtual void DescribeBackups() = 0;
     virtual void ArrangeChatFrame(const GameInfo& game) = 0;
     // The demo installer says what it installs for the game, if anything.
     virtual void ArrangeDemoInstaller(const GameInfo& game) = 0;

@@ -83,7 +83,7 @@ void AppendGameRows(std::vector<SettingRow>& rows, ProgramState& state,
     rows.push_back(ByteRow("AutoShowAll=", state.settings.AutoShowAll));
     rows.push_back(ByteRow("AutoNextShot=", state.settings.AutoNextShot));
     rows.push_back(ByteRow("AutoNextDemo=", state.settings.AutoNextDemo));
-    rows.push_back(ByteRow("BackupAll=", state.settings.BackupAll));
+    rows.push_back(CheckBoxRow("BackupAll=", controls.chkBackupAll));
 }
 
 void AppendDemoRows(std::vector<SettingRow>& rows, const SettingsControls& controls) {

@@ -27,7 +27,6 @@ struct AppSettings {
     std::uint8_t AutoShowAll = 1;
     std::uint8_t AutoNextShot = 0;
     std::uint8_t AutoNextDemo = 0;
-    std::uint8_t BackupAll = 0;
     std::uint8_t ScanWarn = 0;
     std::int32_t TranscriptMessages = -1;                // a colour, or -1 for none
     std::int32_t TranscriptBackground = -1;              // likewise

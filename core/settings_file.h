@@ -24,6 +24,7 @@ struct SettingsControls {
     OptionButton& optTextNo;
     OptionButton& optTextYes;
     TextBox& txtDemoFilter;
+    CheckBox& chkBackupAll;
     CheckBox& chkTranscriptHTML;
     CheckBox& chkTranscriptGameplay;
     std::array<TextBox*, kPlayerBoxes> txtPlayer;

@@ -52,13 +52,6 @@ Message CodeNotCopied() {
                           "Another program is using it at the moment."}));
 }
 
-Message NoQ3Config() {
-    return Failure(Lines({"There is no \"q3config.cfg\" file to add to!", "",
-                          "For some strange reason, this file doesn't currently exist.",
-                          "You should start Quake 3 so that it can create this file,",
-                          "and then come back and select this option again."}));
-}
-
 Message ReallyAddCode() { return Confirmation("Really add the code to \"q3config.cfg\" ?"); }
 
 Message AddToReadOnlyConfig() {

@@ -21,7 +21,6 @@ Message ColouredTextNotOpened();
 Message ReallyCopyCode();
 Message CodeNotCopied();
 
-Message NoQ3Config();
 Message ReallyAddCode();
 Message AddToReadOnlyConfig();
 Message CodeNotAdded();

@@ -12,7 +12,9 @@
 #include "platform/file_system.h"
 #include "platform/window_services.h"
 #include "q3tools/colour_codes.h"
+#include "q3tools/config_messages.h"
 #include "q3tools/q3_config.h"
+#include "q3tools/q3_config_conversion.h"
 #include "q3tools/q3_text_files.h"
 #include "q3tools/q3_text_messages.h"
 
@@ -25,16 +27,6 @@ constexpr std::array<ColourRef, kQ3Colours> kColours = {kQ3Black, kQ3Red,  kQ3Gr
 
 // An orange on which black, white and yellow letters can all be read.
 constexpr ColourRef kEditorBackground = 0x006CD8;
-
-// Of a file, without its folder and the four characters of its extension.
-std::string_view NameToShow(std::string_view path) {
-    std::string_view name = FileNameOf(path);
-    for (int characters = 0; characters < 4 && !name.empty();) {
-        characters += (static_cast<unsigned char>(name.back()) & 0xC0U) == 0x80U ? 0 : 1;
-        name.remove_suffix(1);
-    }
-    return name;
-}
 
 }  // namespace
 
@@ -149,7 +141,10 @@ void Q3TextTab::cmdQ3TextSave_Click() {
     const std::optional<std::string> path =
         platform_.windows.ChooseFileToSave(messages::ColouredTextToSave(
             state_.Q3TextFolder, SuggestedFileName(controls_.rtbQ3Text.Text())));
-    if (!path || path->empty() || !MayOverwrite(*path)) {
+    if (!path || path->empty() ||
+        !MayReplaceFile(state_, platform_, *path,
+                        messages::ReallyOverwriteColouredText(StemOf(*path)),
+                        messages::OverwriteReadOnlyColouredText())) {
         return;
     }
     state_.settings.Q3TextText = *path;
@@ -158,13 +153,6 @@ void Q3TextTab::cmdQ3TextSave_Click() {
     if (!SaveColouredText(platform_.files, *path, content.runs).Ok()) {
         platform_.windows.Ask(messages::ColouredTextNotSaved());
     }
-}
-
-bool Q3TextTab::MayOverwrite(const std::string& path) {
-    return !FileExists(platform_.files, path) ||
-           (Confirmed(state_, platform_.windows,
-                      messages::ReallyOverwriteColouredText(NameToShow(path))) &&
-            MayChangeFile(platform_, path, messages::OverwriteReadOnlyColouredText()));
 }
 
 void Q3TextTab::cmdQ3TextOpen_Click() {
@@ -196,8 +184,9 @@ void Q3TextTab::cmdQ3TextQ3Config_Click() {
         return;
     }
     const std::string path = Q3ConfigPath(state_);
+    RecoverConfig(platform_.files, path);
     if (!FileExists(platform_.files, path)) {
-        platform_.windows.Ask(messages::NoQ3Config());
+        platform_.windows.Ask(messages::NoQ3Config("add to"));
         return;
     }
     if (!Confirmed(state_, platform_.windows, messages::ReallyAddCode()) ||

@@ -38,7 +38,6 @@ class Q3TextTab {
     void BindCommands();
     void ColourSelection(ColourRef colour);
     bool Load(const std::string& path);
-    bool MayOverwrite(const std::string& path);
 
     ProgramState& state_;
     Platform platform_;

@@ -47,6 +47,7 @@ SettingsControls SettingsControlsOf(Form& Form2) {
         .optTextNo = Form2.GetOptionButton(IDC_optTextNo),
         .optTextYes = Form2.GetOptionButton(IDC_optTextYes),
         .txtDemoFilter = Form2.GetTextBox(IDC_txtDemoFilter),
+        .chkBackupAll = Form2.GetCheckBox(IDC_chkBackupAll),
         .chkTranscriptHTML = Form2.GetCheckBox(IDC_chkTranscriptHTML),
         .chkTranscriptGameplay = Form2.GetCheckBox(IDC_chkTranscriptGameplay),
         .txtPlayer = PlayerBoxesOf(Form2),
@@ -159,6 +160,15 @@ Q3TextControls Q3TextControlsOf(Form& Form2) {
         .cmdQ3TextClipboard = Form2.GetButton(IDC_cmdQ3TextClipboard),
         .cmdQ3TextQ3Config = Form2.GetButton(IDC_cmdQ3TextQ3Config),
         .chkQ3TextAddSlash = Form2.GetCheckBox(IDC_chkQ3TextAddSlash),
+    };
+}
+
+Q3ConfigControls Q3ConfigControlsOf(Form& Form2) {
+    return {
+        .cmdQ3Backup = Form2.GetButton(IDC_cmdQ3Backup),
+        .cmdQ3Restore = Form2.GetButton(IDC_cmdQ3Restore),
+        .chkBackupAll = Form2.GetCheckBox(IDC_chkBackupAll),
+        .cmdQ3ConfigEdit = Form2.GetButton(IDC_cmdQ3ConfigEdit),
     };
 }
 

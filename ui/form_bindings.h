@@ -7,6 +7,7 @@
 #include "demos/demo_installer.h"
 #include "demos/demos_tab_controls.h"
 #include "platform/form.h"
+#include "q3tools/q3_config_frames.h"
 #include "q3tools/q3_text_controls.h"
 #include "screenshots/shots_tab_controls.h"
 #include "transcripts/chat_frame_controls.h"
@@ -20,6 +21,7 @@ ShotsTabControls ShotsTabControlsOf(Form& Form2);
 DemoInstallerControls DemoInstallerControlsOf(Form& Form2);
 ChatFrameControls ChatFrameControlsOf(Form& Form2);
 Q3TextControls Q3TextControlsOf(Form& Form2);
+Q3ConfigControls Q3ConfigControlsOf(Form& Form2);
 PreferencesControls PreferencesControlsOf(Form& Form4);
 
 }  // namespace zentar

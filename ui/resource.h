@@ -67,6 +67,14 @@
 #define IDC_picDemoInstaller 1302
 #define IDC_labDemoInstaller 1303
 #define IDC_cmdDemoInstaller 1304
+#define IDC_fraQ3BackRest 1311
+#define IDC_labQ3BackRest 1312
+#define IDC_cmdQ3Backup 1313
+#define IDC_cmdQ3Restore 1314
+#define IDC_chkBackupAll 1315
+#define IDC_fraQ3ConfigEdit 1316
+#define IDC_labQ3ConfigEdit 1317
+#define IDC_cmdQ3ConfigEdit 1318
 
 // Preferences
 #define IDC_tabPreferences 1401

@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "platform/shell.h"
 #include "platform/window_services.h"
+#include "q3tools/progress_backup.h"
 #include "ui/form_bindings.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
@@ -41,6 +42,7 @@ void ZentarProgram::BuildMainWindow() {
         std::make_unique<DemoInstaller>(state_, platform_, DemoInstallerControlsOf(Form2), *demos_);
     chat_ = std::make_unique<ChatFrame>(state_, platform_, ChatFrameControlsOf(Form2));
     q3Text_ = std::make_unique<Q3TextTab>(state_, platform_, Q3TextControlsOf(Form2));
+    q3Config_ = std::make_unique<Q3ConfigFrames>(state_, platform_, Q3ConfigControlsOf(Form2));
     GameFollowers& followers = *this;
     games_ = std::make_unique<GameSelection>(state_, platform_, GameSelectionControlsOf(Form2),
                                              followers);
@@ -86,6 +88,12 @@ void ZentarProgram::ShowFullSize(BitmapPtr shot) {
 }
 
 void ZentarProgram::FillDemoFilterList(const GameInfo& game) { demos_->FillPhraseList(game); }
+
+void ZentarProgram::DescribeBackups() {
+    if (!state_.Q3BackupFolder.empty()) {
+        WriteBackupsInfo(platform_.files, state_.Q3BackupFolder);
+    }
+}
 
 void ZentarProgram::ArrangeChatFrame(const GameInfo& game) { chat_->Arrange(game); }
 

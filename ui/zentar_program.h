@@ -12,6 +12,7 @@
 #include "demos/demos_tab.h"
 #include "platform/form.h"
 #include "platform/platform.h"
+#include "q3tools/q3_config_frames.h"
 #include "q3tools/q3_text_tab.h"
 #include "screenshots/full_view.h"
 #include "screenshots/shots_tab.h"
@@ -39,6 +40,7 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers {
     void ShowFullSize(BitmapPtr shot);
 
     void FillDemoFilterList(const GameInfo& game) override;
+    void DescribeBackups() override;
     void ArrangeChatFrame(const GameInfo& game) override;
     void ArrangeDemoInstaller(const GameInfo& game) override;
     void ArrangeDemoProperties(const GameInfo& game) override;
@@ -58,6 +60,7 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers {
     std::unique_ptr<DemoInstaller> installer_;
     std::unique_ptr<ChatFrame> chat_;
     std::unique_ptr<Q3TextTab> q3Text_;
+    std::unique_ptr<Q3ConfigFrames> q3Config_;
     std::unique_ptr<GameSelection> games_;
     std::unique_ptr<ProgramLife> life_;
     std::unique_ptr<Form> Form3_;

@@ -4,6 +4,7 @@
 #include "tests/window/colour_dialog.h"
 #include "tests/window/commands_fixture.h"
 #include "tests/window/file_dialog.h"
+#include "tests/window/notepad.h"
 #include "tests/window/screen_picture.h"
 #include "tests/window/standin_browser.h"
 #include "tests/window/text_conversion.h"
@@ -40,24 +41,6 @@ BoxContents ScanWarning() {
             .icon = BoxIcon::Information,
             .buttons = {IDOK},
             .defaultButton = IDOK};
-}
-
-// What Notepad shows; it is closed afterwards.
-struct NotepadWindow {
-    std::string title;
-    bool maximised = false;
-};
-
-NotepadWindow CloseNotepad() {
-    const HWND window = Eventually([] { return FindWindowW(L"Notepad", nullptr); });
-    NotepadWindow seen;
-    if (window != nullptr) {
-        Eventually([window] { return TextOf(window).find("(transcript)") != std::string::npos; });
-        seen = {TextOf(window), IsZoomed(window) != FALSE};
-        PostMessageW(window, WM_CLOSE, 0, 0);
-        Eventually([window] { return IsWindow(window) == FALSE; });
-    }
-    return seen;
 }
 
 class Chat : public CommandsTest {
@@ -176,7 +159,7 @@ TEST_F(Chat, APlainTranscriptOpensInNotepad) {
     Scan("condump.txt");
     EXPECT_SOON(Names(), kCondumpNames);
     zentar.ClickOn(IDC_cmdCreateTranscript);
-    const NotepadWindow notepad = CloseNotepad();
+    const NotepadWindow notepad = CloseNotepad("(transcript)");
     EXPECT_EQ(notepad.title.find("condump (transcript)"), 0U) << notepad.title;
     EXPECT_TRUE(notepad.maximised);
     EXPECT_EQ(ReadBytes(Condump()), log + "\r\n");
@@ -294,7 +277,7 @@ TEST_F(Chat, GoldenNamesOutliveARestart) {
     ChooseFile(WaitForFileDialog(zentar_->Process(),
                                  "Open a Quake1 condump/logfile for chat transcription"),
                "qconsole.log");
-    CloseNotepad();
+    CloseNotepad("(transcript)");
     const std::string transcript = ReadBytes(home_.Games() / "Quake/id1/qconsole (transcript).txt");
     EXPECT_NE(transcript.find("\r\n\xC5\xED\xE2\xE5\xF2: hello there\r\n"
                               "Bob [\x90\x91]: hi \xC5\xED\xE2\xE5\xF2\r\n"
