@@ -70,6 +70,7 @@ void GameSelection::RefreshGame() {
         followers_.RefreshScreenshotList();
         followers_.RefreshDemoList();
     }
+    followers_.RefreshSymptom();
 }
 
 void GameSelection::ShowGameAsSelected(const GameInfo& info) {

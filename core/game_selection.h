@@ -28,6 +28,8 @@ class GameFollowers {
     virtual void ResetPreviewCaption() = 0;
     virtual void RefreshScreenshotList() = 0;
     virtual void RefreshDemoList() = 0;
+    // What First Aid says of the selected symptom depends on the game.
+    virtual void RefreshSymptom() = 0;
 };
 
 struct GameSelectionControls {

@@ -49,6 +49,7 @@ void ProgramLife::Form2_Activate() {
         return;
     }
     state_.FirstActivationDone = true;
+    followers_.ClearRemedy();
     if (state_.settings.Virgin == 1) {
         WelcomeNewUser();
     }

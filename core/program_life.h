@@ -18,6 +18,8 @@ class LifeFollowers {
     virtual void LoadCurrentDesign() = 0;
     // The settings have been read, so the tabs follow them.
     virtual void FollowSettings() = 0;
+    // The window is in front for the first time: First Aid shows no remedy.
+    virtual void ClearRemedy() = 0;
     // Puts back what was hidden from a game that played.
     virtual void RestoreHiddenPaks() = 0;
 };

@@ -4,6 +4,7 @@
 
 #include "ui/chat_frame_table.h"
 #include "ui/demos_tab_table.h"
+#include "ui/first_aid_tab_table.h"
 #include "ui/form_tables.h"
 #include "ui/misc_tab_table.h"
 #include "ui/q3_text_tab_table.h"
@@ -115,6 +116,7 @@ std::vector<ControlRow> AllControls() {
     Append<ControlRow>(rows, MiscTabControlRows());
     Append<ControlRow>(rows, ChatFrameControlRows());
     Append<ControlRow>(rows, Q3TextTabControlRows());
+    Append<ControlRow>(rows, FirstAidTabControlRows());
     Append<ControlRow>(rows, kTimerRows);
     return rows;
 }

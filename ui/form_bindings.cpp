@@ -172,6 +172,15 @@ Q3ConfigControls Q3ConfigControlsOf(Form& Form2) {
     };
 }
 
+FirstAidControls FirstAidControlsOf(Form& Form2) {
+    return {
+        .lstSymptoms = Form2.GetListBox(IDC_lstSymptoms),
+        .txtRemedy = Form2.GetTextBox(IDC_txtRemedy),
+        .cmdRemedy1 = Form2.GetButton(IDC_cmdRemedy1),
+        .cmdRemedy2 = Form2.GetButton(IDC_cmdRemedy2),
+    };
+}
+
 PreferencesControls PreferencesControlsOf(Form& Form4) {
     return {
         .txtRemote = Form4.GetTextBox(IDC_txtRemote),

@@ -6,6 +6,7 @@
 #include "core/settings_file.h"
 #include "demos/demo_installer.h"
 #include "demos/demos_tab_controls.h"
+#include "firstaid/first_aid_tab.h"
 #include "platform/form.h"
 #include "q3tools/q3_config_frames.h"
 #include "q3tools/q3_text_controls.h"
@@ -22,6 +23,7 @@ DemoInstallerControls DemoInstallerControlsOf(Form& Form2);
 ChatFrameControls ChatFrameControlsOf(Form& Form2);
 Q3TextControls Q3TextControlsOf(Form& Form2);
 Q3ConfigControls Q3ConfigControlsOf(Form& Form2);
+FirstAidControls FirstAidControlsOf(Form& Form2);
 PreferencesControls PreferencesControlsOf(Form& Form4);
 
 }  // namespace zentar

@@ -161,6 +161,15 @@
 #define IDC_cmdQ3TextQ3Config 1825
 #define IDC_chkQ3TextAddSlash 1826
 
+// First Aid tab
+#define IDC_labFirstAid 1901
+#define IDC_labSymptom 1902
+#define IDC_lstSymptoms 1903
+#define IDC_labRemedy 1904
+#define IDC_txtRemedy 1905
+#define IDC_cmdRemedy1 1906
+#define IDC_cmdRemedy2 1907
+
 // Menu bar
 #define IDM_mnuProgram 3001
 #define IDM_mnuProgramPreferences 3002

@@ -43,6 +43,9 @@ void ZentarProgram::BuildMainWindow() {
     chat_ = std::make_unique<ChatFrame>(state_, platform_, ChatFrameControlsOf(Form2));
     q3Text_ = std::make_unique<Q3TextTab>(state_, platform_, Q3TextControlsOf(Form2));
     q3Config_ = std::make_unique<Q3ConfigFrames>(state_, platform_, Q3ConfigControlsOf(Form2));
+    FirstAidHost& firstAidHost = *this;
+    firstAid_ =
+        std::make_unique<FirstAidTab>(state_, platform_, FirstAidControlsOf(Form2), firstAidHost);
     GameFollowers& followers = *this;
     games_ = std::make_unique<GameSelection>(state_, platform_, GameSelectionControlsOf(Form2),
                                              followers);
@@ -109,6 +112,8 @@ void ZentarProgram::RefreshScreenshotList() { shots_->RefreshScreenshotList(); }
 
 void ZentarProgram::RefreshDemoList() { demos_->RefreshDemoList(); }
 
+void ZentarProgram::RefreshSymptom() { firstAid_->lstSymptoms_Click(); }
+
 void ZentarProgram::LoadCurrentDesign() { q3Text_->LoadCurrent(); }
 
 void ZentarProgram::FollowSettings() {
@@ -116,6 +121,12 @@ void ZentarProgram::FollowSettings() {
     q3Text_->LoadLastUsed();
     chat_->txtPlayer_Change();
 }
+
+void ZentarProgram::ClearRemedy() { firstAid_->ClearRemedy(); }
+
+void ZentarProgram::SwitchGame(const GameId& game) { games_->SetCurrentGame(game); }
+
+void ZentarProgram::CloseProgram() { Form2_->Close(); }
 
 void ZentarProgram::RestoreHiddenPaks() { demos_->RestoreHiddenPaks(); }
 

@@ -10,6 +10,7 @@
 #include "core/program_state.h"
 #include "demos/demo_installer.h"
 #include "demos/demos_tab.h"
+#include "firstaid/first_aid_tab.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "q3tools/q3_config_frames.h"
@@ -20,7 +21,7 @@
 
 namespace zentar {
 
-class ZentarProgram final : private GameFollowers, private LifeFollowers {
+class ZentarProgram final : private GameFollowers, private LifeFollowers, private FirstAidHost {
   public:
     explicit ZentarProgram(const Platform& platform);
     ~ZentarProgram() override;
@@ -47,10 +48,15 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers {
     void ResetPreviewCaption() override;
     void RefreshScreenshotList() override;
     void RefreshDemoList() override;
+    void RefreshSymptom() override;
 
     void LoadCurrentDesign() override;
     void FollowSettings() override;
+    void ClearRemedy() override;
     void RestoreHiddenPaks() override;
+
+    void SwitchGame(const GameId& game) override;
+    void CloseProgram() override;
 
     Platform platform_;
     ProgramState state_;
@@ -61,6 +67,7 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers {
     std::unique_ptr<ChatFrame> chat_;
     std::unique_ptr<Q3TextTab> q3Text_;
     std::unique_ptr<Q3ConfigFrames> q3Config_;
+    std::unique_ptr<FirstAidTab> firstAid_;
     std::unique_ptr<GameSelection> games_;
     std::unique_ptr<ProgramLife> life_;
     std::unique_ptr<Form> Form3_;
