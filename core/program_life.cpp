@@ -57,6 +57,7 @@ void ProgramLife::Form2_Activate() {
 }
 
 void ProgramLife::WelcomeNewUser() {
+    followers_.ShowHelpModally();
     state_.settings.Virgin = 0;
     if (platform_.windows.Ask(messages::FirstRunWelcome()) == Answer::Yes) {
         for (const GameInfo& game : AllGames()) {

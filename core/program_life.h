@@ -20,6 +20,8 @@ class LifeFollowers {
     virtual void FollowSettings() = 0;
     // The window is in front for the first time: First Aid shows no remedy.
     virtual void ClearRemedy() = 0;
+    // Shows a new user the help, until they close it.
+    virtual void ShowHelpModally() = 0;
     // Puts back what was hidden from a game that played.
     virtual void RestoreHiddenPaks() = 0;
 };

@@ -94,10 +94,7 @@ const MenuRow kMenuBar[] = {
     {.id = IDM_mnuGameGetFolder, .parent = IDM_mnuGame, .caption = "Specify &Folder..."},
     {.id = IDM_mnuGameCurrentFolders, .parent = IDM_mnuGame, .caption = "&Current Folders"},
     {.id = IDM_mnuHelp, .kind = MenuKind::Menu, .caption = "&Help"},
-    {.id = IDM_mnuHelpTopics,
-     .parent = IDM_mnuHelp,
-     .caption = "&Help Topics",
-     .startsDisabled = true},
+    {.id = IDM_mnuHelpTopics, .parent = IDM_mnuHelp, .caption = "&Help Topics"},
     {.kind = MenuKind::Separator, .parent = IDM_mnuHelp},
     {.id = IDM_mnuHelpAbout, .parent = IDM_mnuHelp, .caption = "&About Zentar"},
 };

@@ -181,6 +181,15 @@ FirstAidControls FirstAidControlsOf(Form& Form2) {
     };
 }
 
+HelpControls HelpControlsOf(Form& Form9) {
+    return {
+        .lstQuestions = Form9.GetListBox(IDC_lstQuestions),
+        .txtAnswer = Form9.GetTextBox(IDC_txtAnswer),
+        .labHeader = Form9.GetLabel(IDC_labHeader),
+        .cmdBack = Form9.GetButton(IDC_cmdBack),
+    };
+}
+
 PreferencesControls PreferencesControlsOf(Form& Form4) {
     return {
         .txtRemote = Form4.GetTextBox(IDC_txtRemote),

@@ -7,6 +7,7 @@
 #include "demos/demo_installer.h"
 #include "demos/demos_tab_controls.h"
 #include "firstaid/first_aid_tab.h"
+#include "help/help_viewer.h"
 #include "platform/form.h"
 #include "q3tools/q3_config_frames.h"
 #include "q3tools/q3_text_controls.h"
@@ -25,5 +26,6 @@ Q3TextControls Q3TextControlsOf(Form& Form2);
 Q3ConfigControls Q3ConfigControlsOf(Form& Form2);
 FirstAidControls FirstAidControlsOf(Form& Form2);
 PreferencesControls PreferencesControlsOf(Form& Form4);
+HelpControls HelpControlsOf(Form& Form9);
 
 }  // namespace zentar

@@ -22,6 +22,7 @@
 #define IDW_Form2 102
 #define IDW_Form3 103
 #define IDW_Form4 104
+#define IDW_Form9 109
 
 // Splash
 #define IDC_labLoading 1001
@@ -169,6 +170,12 @@
 #define IDC_txtRemedy 1905
 #define IDC_cmdRemedy1 1906
 #define IDC_cmdRemedy2 1907
+
+// Help
+#define IDC_labHeader 2901
+#define IDC_lstQuestions 2902
+#define IDC_txtAnswer 2903
+#define IDC_cmdBack 2904
 
 // Menu bar
 #define IDM_mnuProgram 3001

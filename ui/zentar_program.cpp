@@ -61,9 +61,16 @@ void ZentarProgram::BindMainWindow() {
     events.activate = [this] { life_->Form2_Activate(); };
     events.queryUnload = [this] { return life_->Form2_QueryUnload(); };
     events.sessionEnding = [this] { life_->Form2_SessionEnding(); };
+    events.keyDown = [this](Key key) {
+        if (key == Key::F1) {
+            ShowHelp();
+        }
+        return key == Key::F1;
+    };
     Form2.SetEvents(std::move(events));
     Form2.GetMenu(IDM_mnuProgramPreferences).SetClick([this] { ShowPreferences(); });
     Form2.GetMenu(IDM_mnuProgramExit).SetClick([this] { Form2_->Close(); });
+    Form2.GetMenu(IDM_mnuHelpTopics).SetClick([this] { ShowHelp(); });
     Form2.GetMenu(IDM_mnuHelpAbout).SetClick([this] {
         platform_.windows.Ask(messages::AboutZentar());
     });
@@ -88,6 +95,36 @@ void ZentarProgram::ShowFullSize(BitmapPtr shot) {
         fullView_ = std::make_unique<FullView>(*Form3_, Form3_->GetPictureBox(IDC_picFull));
     }
     fullView_->Show(std::move(shot));
+}
+
+// Where the help is open already, it stays at what the user reads.
+void ZentarProgram::ShowHelp() {
+    if (!helpShown_) {
+        LoadHelp();
+    }
+    Form9_->Show();
+}
+
+void ZentarProgram::ShowHelpModally() {
+    LoadHelp();
+    Form9_->ShowModal();
+}
+
+void ZentarProgram::LoadHelp() {
+    if (!Form9_) {
+        Form9_ = platform_.forms.Create(HelpTable());
+        help_ = std::make_unique<HelpViewer>(state_, HelpControlsOf(*Form9_));
+        FormEvents events;
+        events.activate = [this] { help_->Form9_Activate(); };
+        events.keyDown = [this](Key key) { return help_->Form9_KeyDown(key); };
+        events.queryUnload = [this] {
+            helpShown_ = false;
+            return true;
+        };
+        Form9_->SetEvents(std::move(events));
+    }
+    helpShown_ = true;
+    help_->Form9_Load(Form2_->GetTab(IDC_SSTab1).SelectedTab());
 }
 
 void ZentarProgram::FillDemoFilterList(const GameInfo& game) { demos_->FillPhraseList(game); }

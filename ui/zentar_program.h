@@ -11,6 +11,7 @@
 #include "demos/demo_installer.h"
 #include "demos/demos_tab.h"
 #include "firstaid/first_aid_tab.h"
+#include "help/help_viewer.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "q3tools/q3_config_frames.h"
@@ -39,6 +40,8 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers, privat
     void BindMainWindow();
     void ShowPreferences();
     void ShowFullSize(BitmapPtr shot);
+    void ShowHelp();
+    void LoadHelp();
 
     void FillDemoFilterList(const GameInfo& game) override;
     void DescribeBackups() override;
@@ -53,6 +56,7 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers, privat
     void LoadCurrentDesign() override;
     void FollowSettings() override;
     void ClearRemedy() override;
+    void ShowHelpModally() override;
     void RestoreHiddenPaks() override;
 
     void SwitchGame(const GameId& game) override;
@@ -74,6 +78,9 @@ class ZentarProgram final : private GameFollowers, private LifeFollowers, privat
     std::unique_ptr<FullView> fullView_;
     std::unique_ptr<Form> Form4_;
     std::unique_ptr<Preferences> preferences_;
+    std::unique_ptr<Form> Form9_;
+    std::unique_ptr<HelpViewer> help_;
+    bool helpShown_ = false;  // the help window can be seen
 };
 
 }  // namespace zentar

@@ -118,5 +118,28 @@ TEST(Pictures, OfChatAndColouredText) {
     CancelFileDialog(open);
 }
 
+TEST(Pictures, OfFirstAidAndHelp) {
+    const ZentarHome home;
+    home.WriteIni();
+    const ZentarDriver zentar(home);
+    zentar.ShowTab(kFirstAidTab);
+    zentar.ClickItem(IDC_lstSymptoms, "[ALL] Logitech mousewheel binds aren't working.");
+    EXPECT_GT(TakePicture(zentar.Main(), "remedy"), kSmallestPicture);
+    zentar.ClickOn(IDC_cmdRemedy2);
+    const HWND setting = zentar.WaitForWindow("ZentarForm", "Change Logitech Setting");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(setting, "logitech setting"), kSmallestPicture);
+    Press(VK_ESCAPE);
+    Eventually([setting] { return IsWindowVisible(setting) == FALSE; });
+    zentar.PressKey(VK_F1);
+    const HWND help = zentar.WaitForWindow("ZentarForm", "Zentar Help");
+    zentar.Settle();
+    EXPECT_GT(TakePicture(help, "help"), kSmallestPicture);
+    Press(VK_DOWN);
+    Press(VK_RETURN);
+    zentar.Settle();
+    EXPECT_GT(TakePicture(help, "help answer"), kSmallestPicture);
+}
+
 }  // namespace
 }  // namespace zentar::window_tests

@@ -122,9 +122,20 @@ TEST(StartUp, TemporaryFilesOfACrashedRunAreGone) {
     EXPECT_EQ(GetFileAttributesW(config.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
 }
 
+// A new user has read the author's details.
+void CloseHelp(const ZentarDriver& zentar) {
+    PostMessageW(zentar.WaitForWindow("ZentarForm", "Zentar Help"), WM_CLOSE, 0, 0);
+}
+
 TEST(FirstRun, TheWelcomeIsFollowedByTheCurrentFolders) {
     const ZentarHome home;
     ZentarDriver zentar(home, ZentarDriver::Start::FirstRun);
+    const HWND help = zentar.WaitForWindow("ZentarForm", "Zentar Help");
+    EXPECT_SOON(TextOf(FindControl(help, IDC_labHeader)),
+                "     Author Details And Program Legal Information");
+    EXPECT_FALSE(IsWindowEnabled(zentar.Main()));
+    EXPECT_FALSE(zentar.HasBox());
+    PostMessageW(help, WM_CLOSE, 0, 0);
     const HWND welcome = zentar.WaitForBox("Welcome");
     EXPECT_EQ(zentar.Read(welcome), Welcome());
     AnswerBox(welcome, IDNO);
@@ -143,6 +154,7 @@ TEST(FirstRun, TheWelcomeIsFollowedByTheCurrentFolders) {
 TEST(FirstRun, PickedFoldersAreUsedAtOnce) {
     const ZentarHome home;
     ZentarDriver zentar(home, ZentarDriver::Start::FirstRun);
+    CloseHelp(zentar);
     AnswerBox(zentar.WaitForBox("Welcome"), IDYES);
     for (const auto& [game, folder] :
          {std::pair("Quake1", "Quake"), {"Quake2", "Quake2"}, {"Quake3", "Quake3"}}) {
@@ -162,6 +174,7 @@ TEST(FirstRun, PickedFoldersAreUsedAtOnce) {
 TEST(FirstRun, YesAsksForTheThreeGamesInTurn) {
     const ZentarHome home;
     ZentarDriver zentar(home, ZentarDriver::Start::FirstRun);
+    CloseHelp(zentar);
     AnswerBox(zentar.WaitForBox("Welcome"), IDYES);
     for (const std::string game : {"Quake1", "Quake2", "Quake3"}) {
         AnswerBox(zentar.WaitForPicker("Please locate your " + game + " folder:"), IDCANCEL);

@@ -1,3 +1,6 @@
+#include <functional>
+#include <utility>
+
 #include "tests/unit/program/program_test.h"
 
 namespace zentar {
@@ -18,10 +21,43 @@ Message Folders(const std::string& quake1, const std::string& quake2, const std:
             MessageIcon::Information};
 }
 
-class WelcomeTest : public ProgramTest {};
+class WelcomeTest : public ProgramTest {
+  protected:
+    // The user who reads the help that comes first, and closes it.
+    void ExpectHelp(std::function<void(MemoryForm& help)> reads = {}) {
+        os.forms.SetUser(IDW_Form9, [this, reads = std::move(reads)](MemoryForm& help) {
+            ++helps_;
+            if (reads) {
+                reads(help);
+            }
+        });
+    }
+
+    int helps_ = 0;
+};
+
+TEST_F(WelcomeTest, TheHelpComesFirstAtTheAuthorsDetails) {
+    os.files.AddFile(kIni, "Virgin=1\r\nGame=Quake2\r\n");
+    ExpectHelp([this](MemoryForm& help) {
+        EXPECT_EQ(os.windows.Shown().size(), 0U);
+        EXPECT_EQ(State().settings.Virgin, 1);
+        EXPECT_EQ(help.AnyControl(IDC_labHeader).Text(),
+                  "     Author Details And Program Legal Information");
+        EXPECT_TRUE(help.EffectivelyVisible(IDC_txtAnswer));
+        EXPECT_EQ(help.FocusedId(), IDC_cmdBack);
+        EXPECT_FALSE(Window().CanReach(IDC_SSTab1));
+    });
+    os.windows.Expect(kWelcome, Answer::No);
+    os.windows.Expect(Folders("c:", "c:", "c:"));
+    Start();
+    EXPECT_EQ(helps_, 1);
+    EXPECT_EQ(State().settings.Virgin, 0);
+    EXPECT_EQ(Window().FocusedId(), IDC_SSTab1);
+}
 
 TEST_F(WelcomeTest, ANewUserWhoSaysYesPicksTheThreeFoldersInOrder) {
     InstallGames();
+    ExpectHelp();
     os.windows.Expect(kWelcome, Answer::Yes);
     os.shell.ExpectPick("Please locate your Quake1 folder:", "C:\\Games\\Quake");
     os.shell.ExpectPick("Please locate your Quake2 folder:", "C:\\Games\\Quake2\\");
@@ -36,6 +72,7 @@ TEST_F(WelcomeTest, ANewUserWhoSaysYesPicksTheThreeFoldersInOrder) {
 }
 
 TEST_F(WelcomeTest, AnAnswerOfNoStillShowsTheFoldersAndIsNotAskedAgain) {
+    ExpectHelp();
     os.windows.Expect(kWelcome, Answer::No);
     os.windows.Expect(Folders("c:", "c:", "c:"));
     Start();
@@ -44,6 +81,7 @@ TEST_F(WelcomeTest, AnAnswerOfNoStillShowsTheFoldersAndIsNotAskedAgain) {
     EXPECT_THAT(ini, HasSubstr("\r\nVirgin=0\r\n"));
     EXPECT_THAT(ini, HasSubstr("\r\nQ1Folder=c:\r\nQ2Folder=c:\r\nQ3Folder=c:\r\n"));
     Start();  // no box expected
+    EXPECT_EQ(helps_, 1);
 }
 
 TEST_F(WelcomeTest, SomebodyWhoWasWelcomedIsNotWelcomedAgain) {
