@@ -2,15 +2,11 @@
 // the same run: grep, which only counts the lines that may be speech, and the same transcript in
 // Perl.
 #include <benchmark/benchmark.h>
-#include <fcntl.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -21,10 +17,11 @@
 #include <vector>
 
 #include "benchmarks/large_log.h"
+#include "benchmarks/other_program.h"
 #include "benchmarks/posix_file_system.h"
 #include "benchmarks/ratio_reporter.h"
 #include "benchmarks/repeated_file.h"
-#include "transcripts/console_lines.h"
+#include "core/console_lines.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/transcript_writer.h"
 
@@ -42,29 +39,6 @@ constexpr const char* kSite = "https://zentar.example/";
 std::string g_log;
 std::string g_ours;
 std::string g_perls;
-
-void RunProgram(benchmark::State& state, const std::vector<std::string>& command,
-                const std::string& output) {
-    std::vector<char*> arguments;
-    for (const std::string& argument : command) {
-        arguments.push_back(const_cast<char*>(argument.c_str()));
-    }
-    arguments.push_back(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        // Not to /dev/null, for which grep would stop at the first line.
-        const int file = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        dup2(file, STDOUT_FILENO);
-        setenv("LC_ALL", "C", 1);
-        execvp(arguments[0], arguments.data());
-        _exit(127);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    if (status != 0) {
-        state.SkipWithError("it failed");
-    }
-}
 
 void Grep(benchmark::State& state) {
     for (auto _ : state) {
