@@ -119,6 +119,7 @@ std::vector<std::string> GameSelection::FindMods() {
 void GameSelection::RefreshModList() {
     const std::vector<std::string> mods = FindMods();
     const bool any = !mods.empty();
+    listedGame_ = state_.settings.Game;
     controls_.lstMods.SetItems(mods);
     controls_.lstMods.SetBackground(any ? SystemColour::Window : SystemColour::ButtonFace);
     controls_.lstMods.SetEnabled(any);
@@ -133,6 +134,9 @@ void GameSelection::RefreshModList() {
 }
 
 void GameSelection::lstMods_Click() {
+    if (listedGame_ != state_.settings.Game) {
+        return;  // still the mods of the game before, whose names mean nothing to this one
+    }
     modWasSelected_ = true;
     selecting_.Run([this] { SelectListedMod(); });
 }

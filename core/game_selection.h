@@ -72,6 +72,7 @@ class GameSelection {
     // Counts the refreshes: one that was overtaken by another while messages were handled stops.
     unsigned refreshes_ = 0;
     bool modWasSelected_ = false;
+    GameId listedGame_;  // whose mods the list shows
     LatestOnly selecting_;
 };
 

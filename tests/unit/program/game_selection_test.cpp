@@ -252,6 +252,25 @@ TEST_F(GameSelectionTest, HoweverManyModsArePickedNoneIsListedInsideAnother) {
     EXPECT_EQ(State().games[1].CurMod, Mods().back());
 }
 
+// The list is rebuilt only after the messages that wait, a click on it among them.
+TEST_F(GameSelectionTest, AModOfTheGameBeforeIsNotTakenForOneOfTheNewGame) {
+    Start();
+    int pumps = 0;
+    os.windows.SetDuringPump([&] {
+        if (++pumps == 1) {
+            EXPECT_EQ(State().settings.Game, "Quake3");
+            Window().UserSelect(IDC_lstMods, "rocket");
+        }
+    });
+    Window().UserClick(IDC_optGameQuake3);
+    os.windows.SetDuringPump({});
+    EXPECT_GT(pumps, 0);
+    EXPECT_EQ(State().games[kQuake3Row].CurMod, "baseq3");
+    EXPECT_EQ(State().current.SelectedMod, "baseq3");
+    EXPECT_EQ(Window().SelectedItem(IDC_lstMods), "baseq3");
+    EXPECT_EQ(State().games[kQuake2Row].CurMod, "baseq2");
+}
+
 // ---- The folder check ----
 
 TEST_F(GameSelectionTest, TheFolderCheckGoesByTheExecutableThatIsThereNow) {
