@@ -138,6 +138,9 @@ void MoveStrays(FileSystem& files, const std::string& gameFolder,
 }
 
 void CreateScreenshotFolders(FileSystem& files, const std::string& gameFolder) {
+    if (!gameFolder.ends_with('\\')) {
+        return;  // the bare drive of a game that is not installed
+    }
     for (const FolderEntry& entry : EntriesOf(files, gameFolder)) {
         const std::string name = LowerCase(entry.name);
         if (entry.info.isFolder && name != "." && name != ".." && name != "docs" &&

@@ -91,6 +91,17 @@ TEST_F(FirstAidTest, StraysAreMovedAndScreenshotFoldersMadeWhateverGameIsCurrent
     EXPECT_EQ(os.windows.Sounds(), std::vector<Beep>(3, Beep::Information));
 }
 
+// Its folder is then no more than a drive, which nothing is looked for in.
+TEST_F(FirstAidTest, AGameThatIsNotInstalledHasNoFoldersToRepair) {
+    WriteSettings({"Game=Quake3"});
+    os.files.Remove(kQuake2Folder + "quake2.exe");
+    StartOnFirstAid();
+    EXPECT_EQ(State().games[kQuake2Row].GameFolder, "c:");
+    Apply(Symptom::CrashOnScreenshot);
+    EXPECT_FALSE(os.files.Exists(kQuake2Folder + "rocket\\scrnshot"));
+    EXPECT_FALSE(os.files.Exists("C:\\Games\\scrnshot"));
+}
+
 TEST_F(FirstAidTest, AVersionMismatchSwitchesToQuake3AndLeavesNothingSelected) {
     for (const Symptom symptom : {Symptom::UnknownToAuth, Symptom::ProtocolVersion}) {
         StartOnFirstAid();
