@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/unit/demos/demos_tab_fixture.h"
+#include "tests/unit/expected_boxes.h"
 
 namespace zentar {
 namespace {
@@ -139,13 +140,7 @@ TEST_F(DemoPlay, AMissingGameFolderIsToldFirst) {
     state.settings.Expert = 0;
     UseQuake3();
     os.files.Remove("C:\\Games\\Quake3\\quake3.exe");
-    os.windows.Expect({"Folder Error",
-                       "The correct folder for Quake3 is not specified!\r\n\r\nZentar can't carry "
-                       "out the requested task because it doesn't\r\nknow where Quake3 is.  Ensure "
-                       "that Quake3 is selected under\r\nthe \"Game\" menu, followed by \"Specify "
-                       "Folder\".  Then browse\r\nto your Quake3 folder and try this function "
-                       "again.  Good luck!",
-                       MessageIcon::Exclamation});
+    os.windows.Expect(FolderUnknown("Quake3"));
     Pick("duel", IDM_mnuDemosPlay);
 }
 

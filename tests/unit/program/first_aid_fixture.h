@@ -4,30 +4,13 @@
 #include <string>
 
 #include "firstaid/symptoms.h"
+#include "tests/unit/expected_boxes.h"
 #include "tests/unit/program/program_test.h"
 
 namespace zentar {
 
 inline const std::string kLogitechKey = "Software\\Logitech\\MouseWare\\CurrentVersion\\Technical";
 inline const std::string kQuake3Key = "Software\\Id\\Quake III Arena";
-
-inline Message FolderUnknown(const std::string& game) {
-    return {"Folder Error",
-            "The correct folder for " + game +
-                " is not specified!\r\n\r\n"
-                "Zentar can't carry out the requested task because it doesn't\r\n"
-                "know where " +
-                game + " is.  Ensure that " + game +
-                " is selected under\r\n"
-                "the \"Game\" menu, followed by \"Specify Folder\".  Then browse\r\n"
-                "to your " +
-                game + " folder and try this function again.  Good luck!",
-            MessageIcon::Exclamation};
-}
-
-inline Message Failure(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation};
-}
 
 class FirstAidTest : public ProgramTest {
   protected:

@@ -1,3 +1,4 @@
+#include "tests/unit/expected_boxes.h"
 #include "tests/unit/program/program_test.h"
 
 #include "core/game_folders.h"
@@ -278,13 +279,7 @@ TEST_F(GameSelectionTest, TheFolderCheckGoesByTheExecutableThatIsThereNow) {
     CheckGameFolder(State(), os.Services());
     EXPECT_TRUE(State().GameFolderOK);
     os.files.Remove(kQuake2Folder + "quake2.exe");
-    os.windows.Expect({"Folder Error",
-                       "The correct folder for Quake2 is not specified!\r\n\r\n"
-                       "Zentar can't carry out the requested task because it doesn't\r\n"
-                       "know where Quake2 is.  Ensure that Quake2 is selected under\r\n"
-                       "the \"Game\" menu, followed by \"Specify Folder\".  Then browse\r\n"
-                       "to your Quake2 folder and try this function again.  Good luck!",
-                       MessageIcon::Exclamation});
+    os.windows.Expect(FolderUnknown("Quake2"));
     CheckGameFolder(State(), os.Services());
     EXPECT_FALSE(State().GameFolderOK);
 }

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/unit/expected_boxes.h"
 #include "tests/unit/program/program_test.h"
 
 namespace zentar {
@@ -22,18 +23,6 @@ inline constexpr const char* kHead =
 inline constexpr const char* kFoot =
     "// ===================================================================\r\n";
 
-inline Message Failure(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation};
-}
-
-inline Message Confirm(const std::string& text) {
-    return {"Confirm", text, MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
-}
-
-inline Message ReadOnlyQuestion(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation, MessageButtons::YesNo, DefaultButton::Second};
-}
-
 inline Message NoConfig(const std::string& purpose) {
     return Failure("There is no \"q3config.cfg\" file to " + purpose +
                    "!\r\n\r\n"
@@ -41,15 +30,6 @@ inline Message NoConfig(const std::string& purpose) {
                    "You should start Quake 3 so that it can create this file,\r\n"
                    "and then come back and select this option again.");
 }
-
-inline const Message kFolderUnknown = {
-    "Folder Error",
-    "The correct folder for Quake3 is not specified!\r\n\r\n"
-    "Zentar can't carry out the requested task because it doesn't\r\n"
-    "know where Quake3 is.  Ensure that Quake3 is selected under\r\n"
-    "the \"Game\" menu, followed by \"Specify Folder\".  Then browse\r\n"
-    "to your Quake3 folder and try this function again.  Good luck!",
-    MessageIcon::Exclamation};
 
 inline FileQuestion Backups(const std::string& title) {
     return {.title = title,

@@ -143,7 +143,7 @@ TEST_F(Q3ConfigProgramTest, WithoutTheGameOrItsConfigNothingIsDone) {
     Window().UserClick(IDC_cmdQ3ConfigEdit);
     os.files.Remove(kQuake3Folder + "quake3.exe");
     for (const int button : {IDC_cmdQ3Backup, IDC_cmdQ3Restore, IDC_cmdQ3ConfigEdit}) {
-        os.windows.Expect(kFolderUnknown);
+        os.windows.Expect(FolderUnknown("Quake3"));
         Window().UserClick(button);
     }
     EXPECT_EQ(State().settings.Game, "Quake2");

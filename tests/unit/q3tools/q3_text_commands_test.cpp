@@ -4,6 +4,7 @@
 
 #include "q3tools/colour_codes.h"
 #include "tests/doubles/faulty_file_system.h"
+#include "tests/unit/expected_boxes.h"
 #include "tests/unit/q3tools/q3_text_fixture.h"
 
 namespace zentar {
@@ -89,13 +90,6 @@ class Q3ConfigTest : public Q3TextTabTest {
 
     const std::string config_ = "C:\\Quake3\\baseq3\\q3config.cfg";
     const std::string line_ = "seta name \"^1A^7b\"\r\n";
-    const Message noFolder_ = {"Folder Error",
-                               "The correct folder for Quake3 is not specified!\r\n\r\n"
-                               "Zentar can't carry out the requested task because it doesn't\r\n"
-                               "know where Quake3 is.  Ensure that Quake3 is selected under\r\n"
-                               "the \"Game\" menu, followed by \"Specify Folder\".  Then browse\r\n"
-                               "to your Quake3 folder and try this function again.  Good luck!",
-                               MessageIcon::Exclamation};
     const Message really_ = Confirm("Really add the code to \"q3config.cfg\" ?");
     const Message readOnly_ = Question(
         "Couldn't add to \"q3config.cfg\" due to it being set as read-only.\r\n"
@@ -120,7 +114,7 @@ TEST_F(Q3ConfigTest, TheCodeIsAppendedOnYesOnly) {
 TEST_F(Q3ConfigTest, WithoutTheGameNobodyLooksForItsFile) {
     os.files.Remove("C:\\Quake3\\quake3.exe");
     os.files.Remove(config_);
-    os.windows.Expect(noFolder_);
+    os.windows.Expect(FolderUnknown("Quake3"));
     Add();
 }
 
@@ -245,7 +239,7 @@ TEST_F(Q3ConfigTest, TheFolderIsThatOfQuake3WhateverTheCurrentGame) {
     os.files.Remove("C:\\Quake3\\quake3.exe");
     for (const std::string game : {"Quake1", "Quake2", "Quake3", "Quake4"}) {
         state.settings.Game = game;
-        os.windows.Expect(noFolder_);
+        os.windows.Expect(FolderUnknown("Quake3"));
         Add();
     }
     EXPECT_EQ(os.files.Contents(config_), "seta x \"1\"\r\n");

@@ -1,6 +1,7 @@
 // The command "Scan For Names", from the click to the beep.
 
 #include "tests/doubles/faulty_file_system.h"
+#include "tests/unit/expected_boxes.h"
 #include "tests/unit/transcripts/chat_frame_fixture.h"
 
 namespace zentar {
@@ -82,13 +83,7 @@ TEST_F(ScanForNamesTest, WithoutTheGameNothingIsAsked) {
     TypeName(1, "Old");
     state.settings.ScanWarn = 0;
     os.files.Remove("C:\\Quake2\\quake2.exe");
-    os.windows.Expect({"Folder Error",
-                       "The correct folder for Quake2 is not specified!\r\n\r\n"
-                       "Zentar can't carry out the requested task because it doesn't\r\n"
-                       "know where Quake2 is.  Ensure that Quake2 is selected under\r\n"
-                       "the \"Game\" menu, followed by \"Specify Folder\".  Then browse\r\n"
-                       "to your Quake2 folder and try this function again.  Good luck!",
-                       MessageIcon::Exclamation});
+    os.windows.Expect(FolderUnknown("Quake2"));
     ClickScan();
     EXPECT_FALSE(state.GameFolderOK);
     ExpectNothingDone();
