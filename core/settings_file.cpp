@@ -5,12 +5,11 @@
 #include <string>
 #include <unordered_map>
 
-#include "core/atomic_file.h"
+#include "core/program_info.h"
+#include "core/settings_storage.h"
 
 namespace zentar {
 namespace {
-
-std::string SettingsPath(const std::string& programFolder) { return programFolder + "zentar.ini"; }
 
 // Cuts a stream of bytes into lines. CR, LF and CR LF each end one.
 class LineSplitter {
@@ -62,8 +61,7 @@ bool FeedWholeFile(ReadableFile& file, LineSplitter& lines) {
 
 bool LoadSettings(FileSystem& files, const std::string& programFolder,
                   const std::vector<SettingRow>& rows) {
-    const Result<std::unique_ptr<ReadableFile>> file =
-        files.OpenForReading(SettingsPath(programFolder));
+    const Result<std::unique_ptr<ReadableFile>> file = OpenSettings(files, programFolder);
     if (!file.Ok()) {
         return file.Error() == FileError::NotFound;
     }
@@ -86,22 +84,14 @@ bool LoadSettings(FileSystem& files, const std::string& programFolder,
 
 void SaveSettings(FileSystem& files, const std::string& programFolder,
                   const std::vector<SettingRow>& rows) {
-    const std::string path = SettingsPath(programFolder);
-    const Result<FileInfo> old = files.Info(path);
-    if (old.Ok() && old.Value().readOnly) {
-        return;
-    }
-    std::string text =
-        "// Zentar v0.99 BETA Settings File.\r\n"
-        "// Changes are NOT recommended!\r\n"
-        "// " +
-        std::string(28, '-') + "\r\n";
+    std::string text = "// " + std::string(kVersionLine) + " Settings File.\r\n" +
+                       "// Changes are NOT recommended!\r\n// " + std::string(28, '-') + "\r\n";
     for (const SettingRow& row : rows) {
         text += row.key + row.write() + "\r\n";
     }
-    text += "// " + std::string(67, '=') + "\r\n";
-    // The user is leaving the program: there is nobody left to tell, and the old file is whole.
-    IgnoreFailure(ReplaceFileContents(files, path, text));
+    text += kSettingsEnd;
+    // The user is leaving the program: there is nobody left to tell, and the old text is whole.
+    IgnoreFailure(StoreSettings(files, programFolder, text));
 }
 
 }  // namespace zentar

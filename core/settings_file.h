@@ -52,8 +52,8 @@ std::vector<SettingRow> SettingRows(ProgramState& state, const SettingsControls&
 [[nodiscard]] bool LoadSettings(FileSystem& files, const std::string& programFolder,
                                 const std::vector<SettingRow>& rows);
 
-// Writes zentar.ini in one atomic step. Does nothing when the file is read-only: that is how a user
-// freezes the settings. Failures are silent, and leave the old file.
+// Writes zentar.ini so that it is the old one or the new one, whole. Does nothing when the file is
+// read-only: that is how a user freezes the settings. Failures are silent, and leave the old one.
 void SaveSettings(FileSystem& files, const std::string& programFolder,
                   const std::vector<SettingRow>& rows);
 
