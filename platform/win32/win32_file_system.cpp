@@ -3,7 +3,9 @@
 #include <windows.h>
 
 #include <optional>
+#include <utility>
 
+#include "platform/win32/file_rights.h"
 #include "platform/win32/win32_file_error.h"
 #include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_open_file.h"
@@ -198,10 +200,14 @@ Status Win32FileSystem::Replace(const std::string& from, const std::string& to) 
     if (!MayBeOverwritten(*target)) {
         return FileError::AccessDenied;
     }
+    FileRights rights = RightsOf(*target);
     // Not ReplaceFile: it takes two steps, and can leave the target away after the first.
     const Status replaced = Outcome(MoveFileExW(
         source->c_str(), target->c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
-    if (!replaced.Ok() && replaced.Error() == FileError::AccessDenied && IsHeldElsewhere(*target)) {
+    if (replaced.Ok()) {
+        // The temporary file's are those of its folder alone.
+        SetRights(*target, std::move(rights));
+    } else if (replaced.Error() == FileError::AccessDenied && IsHeldElsewhere(*target)) {
         return FileError::InUse;
     }
     return replaced;
