@@ -1,6 +1,7 @@
 // Chat transcripts and coloured texts.
 
 #include "tests/fault/command_faults.h"
+#include "tests/fault/commands.h"
 
 namespace zentar {
 namespace {
@@ -49,32 +50,44 @@ const CommandCase kScanAndDelete = {"ScanAndDelete",
                                     },
                                     {.given = {kEmptyLog}}};
 
-INSTANTIATE_TEST_SUITE_P(Chat, GivenAwayFaults, ::testing::Values(kScanAndDelete));
+// A log that takes no line end only loses its last line, where that has none.
+const std::vector<Unsaid> kLineEndForgone = {
+    {kLog, "a log that cannot be changed is read as it is"},
+    {kText, "its last line, where that has no end, is left out"},
+    {kHtml, "its last line, where that has no end, is left out"}};
 
-INSTANTIATE_TEST_SUITE_P(
-    ChatAndQ3Text, CommandFaults,
-    ::testing::Values(
-        kScanAndDelete,
-        CommandCase{"TranscriptAsText",
-                    Prepare,
-                    [](CommandRun& run) { ClickOnMisc(run, IDC_cmdCreateTranscript); },
-                    {.replaced = {kText}, .appended = {kLog}}},
-        CommandCase{"TranscriptAsHtml",
-                    Prepare,
-                    [](CommandRun& run) {
-                        run.Window().GetCheckBox(IDC_chkTranscriptHTML).SetChecked(true);
-                        ClickOnMisc(run, IDC_cmdCreateTranscript);
-                    },
-                    {.replaced = {kHtml}, .appended = {kLog}}},
-        CommandCase{"SaveColouredText",
-                    Prepare,
-                    [](CommandRun& run) { ClickOnQ3Text(run, IDC_cmdQ3TextSave); },
-                    {.replaced = {kDesign}}},
-        CommandCase{"AddToConfig",
-                    Prepare,
-                    [](CommandRun& run) { ClickOnQ3Text(run, IDC_cmdQ3TextQ3Config); },
-                    {.appended = {kConfig}}}),
-    [](const auto& command) { return std::string(command.param.name); });
+INSTANTIATE_TEST_SUITE_P(Chat, GivenAwayFaults, ::testing::Values(kScanAndDelete), NameOfCommand);
+
+INSTANTIATE_TEST_SUITE_P(ChatAndQ3Text, CommandFaults, ::testing::ValuesIn(ChatAndQ3TextCommands()),
+                         NameOfCommand);
 
 }  // namespace
+
+std::vector<CommandCase> ChatAndQ3TextCommands() {
+    return {kScanAndDelete,
+            CommandCase{"TranscriptAsText",
+                        Prepare,
+                        [](CommandRun& run) { ClickOnMisc(run, IDC_cmdCreateTranscript); },
+                        {.replaced = {kText}, .appended = {kLog}},
+                        {},
+                        kLineEndForgone},
+            CommandCase{"TranscriptAsHtml",
+                        Prepare,
+                        [](CommandRun& run) {
+                            run.Window().GetCheckBox(IDC_chkTranscriptHTML).SetChecked(true);
+                            ClickOnMisc(run, IDC_cmdCreateTranscript);
+                        },
+                        {.replaced = {kHtml}, .appended = {kLog}},
+                        {},
+                        kLineEndForgone},
+            CommandCase{"SaveColouredText",
+                        Prepare,
+                        [](CommandRun& run) { ClickOnQ3Text(run, IDC_cmdQ3TextSave); },
+                        {.replaced = {kDesign}}},
+            CommandCase{"AddToConfig",
+                        Prepare,
+                        [](CommandRun& run) { ClickOnQ3Text(run, IDC_cmdQ3TextQ3Config); },
+                        {.appended = {kConfig}}}};
+}
+
 }  // namespace zentar

@@ -1,86 +1,31 @@
 // The settings file while the disk fails or the program is killed.
 
-#include <optional>
-
-#include "tests/doubles/faulty_file_system.h"
-#include "tests/doubles/memory_platform.h"
-#include "ui/resource.h"
-#include "ui/zentar_program.h"
+#include "tests/fault/command_faults.h"
+#include "tests/fault/commands.h"
 
 namespace zentar {
 namespace {
 
 const std::string kIni = "C:\\Zentar\\zentar.ini";
+const std::string kSpare = "C:\\Zentar\\data\\zentar.ini.new";
 const std::string kOld = "Virgin=0\r\nGame=Quake1\r\nPlayer1Name=Bob\r\n";
 
-// One run of the program on a fresh machine, on a file system that can fail.
-struct OneRun {
-    OneRun() : faulty(os.files) {
-        os.shell.programFolder = "C:\\Zentar";
-        os.files.AddFolder("C:\\Windows\\");
-        os.files.AddFile(kIni, kOld);
-        program.emplace(os.Services(faulty));
-        program->Start();
-        Window().Activate();
-    }
+void Prepare(CommandRun& run) { run.files.AddFile(kIni, kOld); }
 
-    MemoryForm& Window() { return os.forms.Get(IDW_Form2); }
-
-    void Leave() {
-        faulty.Restart();
-        Window().UserClose();
-    }
-
-    MemoryPlatform os;
-    FaultyFileSystem faulty;
-    std::optional<ZentarProgram> program;
-};
-
-struct Shutdown {
-    int calls = 0;
-    std::string written;
-};
-
-Shutdown SoundShutdown() {
-    OneRun run;
-    run.Leave();
-    return {run.faulty.CallCount(), run.os.files.Contents(kIni)};
+// As an installation for everybody leaves it to an ordinary user.
+void PrepareProtected(CommandRun& run) {
+    Prepare(run);
+    run.files.AddFolder("C:\\Zentar\\data\\q3text\\");
+    run.files.SetWritingDenied("C:\\Zentar\\");
 }
 
-TEST(SettingsFaultTest, KilledAtAnyCallOfShutdownTheFileIsTheOldOrTheNewOneWhole) {
-    const Shutdown sound = SoundShutdown();
-    ASSERT_NE(sound.written, kOld);
-    ASSERT_GT(sound.calls, 5);
-    for (const Unflushed unflushed : {Unflushed::Kept, Unflushed::Halved, Unflushed::Lost}) {
-        for (int call = 1; call <= sound.calls; ++call) {
-            OneRun run;
-            run.faulty.Restart();
-            run.faulty.KillAt(call, unflushed);
-            run.Window().UserClose();
-            const std::string left = run.os.files.Contents(kIni);
-            EXPECT_TRUE(left == kOld || left == sound.written)
-                << "killed at " << run.faulty.CallName(call) << ", left:\n"
-                << left;
-        }
-    }
+void Leave(CommandRun& run) {
+    run.Window().UserClose();
+    EXPECT_TRUE(run.Window().Closed());
 }
 
-TEST(SettingsFaultTest, WhicheverCallOfShutdownFailsTheFileIsTheOldOrTheNewOneWhole) {
-    const Shutdown sound = SoundShutdown();
-    for (const FileError error : {FileError::NoSpace, FileError::AccessDenied, FileError::InUse}) {
-        for (int call = 1; call <= sound.calls; ++call) {
-            OneRun run;
-            run.faulty.Restart();
-            run.faulty.FailAt(call, error);
-            run.Window().UserClose();
-            EXPECT_TRUE(run.Window().Closed());
-            const std::string left = run.os.files.Contents(kIni);
-            EXPECT_TRUE(left == kOld || left == sound.written)
-                << "failed: " << run.faulty.CallName(call) << ", left:\n"
-                << left;
-        }
-    }
-}
+INSTANTIATE_TEST_SUITE_P(Leaving, CommandFaults, ::testing::ValuesIn(LeavingCommands()),
+                         NameOfCommand);
 
 TEST(SettingsFaultTest, WhicheverReadOfTheSettingsFailsTheyAreNotLost) {
     // A run that could not read the settings must not replace them with defaults.
@@ -88,7 +33,7 @@ TEST(SettingsFaultTest, WhicheverReadOfTheSettingsFailsTheyAreNotLost) {
         MemoryPlatform os;
         os.shell.programFolder = "C:\\Zentar";
         os.files.AddFolder("C:\\Windows\\");
-        os.files.AddFile(kIni, "Virgin=0\r\n" + kOld);
+        os.files.AddFile(kIni, kOld);
         FaultyFileSystem faulty(os.files);
         faulty.FailAt(call, FileError::InUse);
         ZentarProgram program(os.Services(faulty));
@@ -100,4 +45,17 @@ TEST(SettingsFaultTest, WhicheverReadOfTheSettingsFailsTheyAreNotLost) {
 }
 
 }  // namespace
+
+std::vector<CommandCase> LeavingCommands() {
+    const std::vector<Unsaid> nobodyIsLeft = {
+        {kIni, "nobody is left to tell, and the settings are whole"}};
+    return {CommandCase{"LeaveZentar", Prepare, Leave, {.replaced = {kIni}}, {}, nobodyIsLeft},
+            CommandCase{"LeaveZentarInAProtectedFolder",
+                        PrepareProtected,
+                        Leave,
+                        {.replaced = {kIni}, .rescued = {{kIni, kSpare}}},
+                        {},
+                        nobodyIsLeft}};
+}
+
 }  // namespace zentar

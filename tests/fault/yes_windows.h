@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "tests/doubles/scripted_services.h"
 
@@ -11,11 +12,14 @@ namespace zentar {
 class YesWindows : public ScriptedWindows {
   public:
     Answer Ask(const Message& message) override {
+        said.push_back(message);
         return message.buttons == MessageButtons::Ok ? Answer::Ok : Answer::Yes;
     }
     std::optional<std::string> AskText(const TextQuestion& /*question*/) override {
         return "renamed";
     }
+
+    std::vector<Message> said;  // every message box, in this order
 };
 
 }  // namespace zentar
