@@ -142,11 +142,16 @@ TEST_P(TextAndListContract, AListScrollsToAnEntry) {
 }
 
 TEST_P(TextAndListContract, AVeryLongTextIsKeptWhole) {
-    const std::string text(100'000, 'x');
-    for (const int id : {kText, kManyLines}) {
-        Main().GetTextBox(id).SetText(text);
-        EXPECT_TRUE(Main().GetTextBox(id).Text() == text) << id;
+    const std::string line(100'000, 'x');
+    Main().GetTextBox(kText).SetText(line);
+    EXPECT_TRUE(Main().GetTextBox(kText).Text() == line);
+    // Wine's boxes of many lines take very long for a very long line.
+    std::string lines;
+    while (lines.size() < line.size()) {
+        lines.append(98, 'x').append("\r\n");
     }
+    Main().GetTextBox(kManyLines).SetText(lines);
+    EXPECT_TRUE(Main().GetTextBox(kManyLines).Text() == lines);
 }
 
 TEST_P(TextAndListContract, AListShowsItsEntriesInTheirOrderAndSelectsNone) {
