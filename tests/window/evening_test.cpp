@@ -1,0 +1,27 @@
+// One evening with the program: the first run, three games, every tab, and every command, first
+// with a question before each harm and then in Expert Mode. Afterwards there is nothing on the disk
+// but what should be.
+#include "tests/window/evening_fixture.h"
+
+namespace zentar::window_tests {
+namespace {
+
+TEST_F(EveningTest, LeavesEveryFileAsItShouldBe) {
+    FirstRun();
+    for (const bool expert : {false, true}) {
+        Preferences(expert);
+        GamesAndMenus();
+        Screenshots();
+        Demos();
+        Tools();
+        ColouredText();
+        FirstAid();
+        GoHome();
+        if (!expert) {
+            ComeBack();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace zentar::window_tests

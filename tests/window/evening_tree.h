@@ -1,0 +1,22 @@
+// What stands in a folder and everything below it.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace zentar::window_tests {
+
+// The bytes of each file by its path from the top, with slashes; a folder's path ends in one.
+using Tree = std::map<std::string, std::string>;
+
+Tree ReadTree(const std::filesystem::path& top);
+
+// Stands in an expected tree for bytes that only whoever makes them knows: a JPG.
+extern const std::string kSomeJpg;
+
+// How the trees differ, a line a path; empty when they do not.
+std::vector<std::string> Differences(const Tree& expected, const Tree& found);
+
+}  // namespace zentar::window_tests
