@@ -5,6 +5,7 @@ jobs=$(nproc)
 # Debian packages that building and running need.
 build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libbenchmark-dev)
 wine_packages=(wine wine64 xvfb openbox xdotool imagemagick fonts-wine fonts-dejavu-core)
+packaging_packages=(nsis zip unzip python3-yaml python3-jsonschema)
 
 is_installed() {  # package
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

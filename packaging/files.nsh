@@ -1,0 +1,120 @@
+; The files in the folder of a copy, and its shortcut.
+
+; In one step, so that an interrupted upgrade leaves the old program or the new one.
+Function PutProgram
+    ClearErrors
+    File "/oname=$INSTDIR\zentar.exe.new" "${BUILD}/zentar.exe"
+    StrCpy $1 "$INSTDIR\zentar.exe"
+    ${IfNot} ${Errors}
+        System::Call 'kernel32::MoveFileExW(w "$1.new", w r1, i ${MOVE_REPLACING}) i .r0'
+        ${If} $0 != 0
+            Return
+        ${EndIf}
+    ${EndIf}
+    Delete "$1.new"
+    !insertmacro Fail "$1 could not be written."
+FunctionEnd
+
+; Lets the users of the machine change what $1 names; `rights` in the words of icacls. Where the
+; disk knows no rights it fails, and nobody needs them.
+!macro GrantUsers rights
+    nsExec::Exec '"$SYSDIR\icacls.exe" "$1" /grant ${USERS}:${rights}'
+    Pop $0
+!macroend
+
+; The settings, and the folder of the designs. They are the users' own, so rights are given on these
+; alone, and on the folder only when it is new to setup ($R0 tells): later it holds whatever the
+; users made there, and rights given by an administrator would reach that, too.
+Function PutUsersFiles
+    StrCpy $1 "$INSTDIR\zentar.ini"
+    ${IfNot} ${FileExists} "$1"
+        ClearErrors
+        FileOpen $0 "$1" w
+        FileClose $0
+        ${If} ${Errors}
+            !insertmacro Fail "$1 could not be written."
+        ${EndIf}
+    ${EndIf}
+    !insertmacro GrantUsers "(M)"
+    StrCpy $1 "$INSTDIR\data"
+    ${If} $R0 == 1
+    ${AndIf} ${FileExists} "$1\*.*"
+        CreateDirectory "$1\q3text"
+        Return
+    ${EndIf}
+    CreateDirectory "$1\q3text"
+    Push "$1"
+    Call IsOwnFolder
+    Pop $0
+    ${If} $0 = 1
+        !insertmacro GrantUsers "(OI)(CI)(M)"
+    ${EndIf}
+FunctionEnd
+
+; Also what an interrupted step left.
+Function un.DeleteProgram
+    Delete "$INSTDIR\zentar.exe"
+    ${If} ${FileExists} "$INSTDIR\zentar.exe"
+        !insertmacro Fail "$INSTDIR\zentar.exe could not be deleted."
+    ${EndIf}
+    Delete "$INSTDIR\zentar.exe.new"
+    Delete "$INSTDIR\zentar.ini"
+    Delete "$INSTDIR\zentar.ini.new"
+    Delete "$INSTDIR\data\zentar.ini.new"
+    Delete "$INSTDIR\tmp.bmp"
+FunctionEnd
+
+; A design under its temporary name may be all that there is of it.
+Function un.DeleteDesigns
+    Push "$INSTDIR\data"
+    Call un.IsOwnFolder
+    Pop $0
+    Push "$INSTDIR\data\q3text"
+    Call un.IsOwnFolder
+    Pop $1
+    ${If} $0 = 1
+    ${AndIf} $1 = 1
+        Delete "$INSTDIR\data\q3text\*.ini"
+        Delete "$INSTDIR\data\q3text\*.ini.new"
+    ${EndIf}
+FunctionEnd
+
+; The shortcut leads to the copy that was installed last; another copy's stays.
+Function un.DeleteShortcut
+    StrCpy $2 ""
+    !insertmacro ComHlpr_CreateInProcInstance ${CLSID_ShellLink} ${IID_IShellLink} r0 ""
+    ${If} $0 P<> 0
+        ${IUnknown::QueryInterface} $0 '("${IID_IPersistFile}", .r1)'
+        ${If} $1 P<> 0
+            ${IPersistFile::Load} $1 '("${SHORTCUT}", ${STGM_READ})'
+            ; By its shell items, which spell every name; the path beside them may not.
+            ${IShellLink::GetIDList} $0 '(.r3)'
+            System::Call 'shell32::SHGetPathFromIDListW(p r3, w .r2)'
+            System::Call 'ole32::CoTaskMemFree(p r3)'
+            ${IUnknown::Release} $1 ""
+        ${EndIf}
+        ${IUnknown::Release} $0 ""
+    ${EndIf}
+    ${If} $2 == "$INSTDIR\zentar.exe"
+        Delete "${SHORTCUT}"
+    ${EndIf}
+FunctionEnd
+
+; The uninstaller itself, once the one that was started has ended, and the folders that are empty.
+; Not when setup has put a new copy there meanwhile.
+Function un.RemoveRest
+    StrCpy $1 0
+    ${DoWhile} ${FileExists} "$INSTDIR\uninstall.exe"
+        ReadRegStr $0 HKLM "${UNINSTALL_KEYS}\$Entry" "InstallLocation"
+        ${If} $0 != ""
+        ${OrIf} $1 = 100
+            Return
+        ${EndIf}
+        Delete "$INSTDIR\uninstall.exe"
+        Sleep 100
+        IntOp $1 $1 + 1
+    ${Loop}
+    RMDir "$INSTDIR\data\q3text"
+    RMDir "$INSTDIR\data"
+    RMDir "$INSTDIR"
+FunctionEnd
