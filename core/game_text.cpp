@@ -7,35 +7,6 @@
 #include "platform/utf8.h"
 
 namespace zentar {
-namespace {
-
-// The length of the UTF-8 sequence that starts here, as its first byte says; cut at the text's end.
-std::size_t SequenceLength(std::string_view text, std::size_t at) {
-    const auto lead = static_cast<unsigned char>(text[at]);
-    std::size_t length = 1;
-    if (lead >= 0xF0) {
-        length = 4;
-    } else if (lead >= 0xE0) {
-        length = 3;
-    } else if (lead >= 0xC0) {
-        length = 2;
-    }
-    return length < text.size() - at ? length : text.size() - at;
-}
-
-char32_t DecodeSequence(std::string_view sequence) {
-    const auto lead = static_cast<unsigned char>(sequence[0]);
-    if (sequence.size() == 1) {
-        return lead;
-    }
-    char32_t point = lead & (0xFFU >> (sequence.size() + 1));
-    for (const char c : sequence.substr(1)) {
-        point = (point << 6U) | (static_cast<unsigned char>(c) & 0x3FU);
-    }
-    return point;
-}
-
-}  // namespace
 
 std::string GameTextToUtf8(std::string_view bytes) {
     std::string text;
@@ -49,14 +20,16 @@ std::string GameTextToUtf8(std::string_view bytes) {
 std::string Utf8ToGameText(std::string_view utf8) {
     std::string bytes;
     bytes.reserve(utf8.size());
-    for (std::size_t at = 0; at < utf8.size();) {
-        const std::string_view sequence = utf8.substr(at, SequenceLength(utf8, at));
-        if (const auto byte = ByteOfCodePoint(DecodeSequence(sequence))) {
+    while (!utf8.empty()) {
+        const std::optional<Utf8Character> first = FirstUtf8(utf8);
+        const std::size_t length = first ? first->length : 1;
+        const auto byte = first ? ByteOfCodePoint(first->point) : std::nullopt;
+        if (byte) {
             bytes += static_cast<char>(*byte);
         } else {
-            bytes += sequence;
+            bytes += utf8.substr(0, length);
         }
-        at += sequence.size();
+        utf8.remove_prefix(length);
     }
     return bytes;
 }

@@ -9,8 +9,9 @@
 
 namespace zentar {
 
-// Lower case, letter by letter, of UTF-8 text: ASCII and the Latin, Greek and Cyrillic letters that
-// have exactly one lower-case form. Anything else, broken UTF-8 included, stays as it is.
+// Lower case, letter by letter, of UTF-8 text: ASCII and the Latin, Greek and Cyrillic letters of
+// today's languages that have exactly one lower-case form. Anything else, broken UTF-8 included,
+// stays as it is.
 std::string LowerCase(std::string_view text);
 
 // Lower case of the ASCII letters only, for bytes of game files and for extensions.

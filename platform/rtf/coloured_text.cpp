@@ -3,17 +3,10 @@
 #include <utility>
 
 #include "platform/rtf/unicode.h"
+#include "platform/utf16.h"
 #include "platform/utf8.h"
 
 namespace zentar {
-namespace {
-
-bool IsFirstHalf(char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-
-bool IsSecondHalf(char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-}  // namespace
-
 bool StandsAsBlank(char32_t point) {
     constexpr char32_t kLineSeparator = 0x2028;
     constexpr char32_t kParagraphSeparator = 0x2029;
@@ -23,7 +16,7 @@ bool StandsAsBlank(char32_t point) {
 void ColouredText::Add(char32_t unit, ColourRef colour) {
     if (firstHalf_ && IsSecondHalf(unit)) {
         const char32_t high = std::exchange(firstHalf_, std::nullopt)->unit;
-        Append(0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00), colour);
+        Append(JoinHalves(high, unit), colour);
         return;
     }
     AppendAlone();

@@ -7,6 +7,7 @@
 #include "platform/code_page.h"
 #include "platform/rtf/coloured_text.h"
 #include "platform/rtf/unicode.h"
+#include "platform/utf16.h"
 
 namespace zentar {
 namespace {
@@ -45,8 +46,8 @@ void AppendCharacter(std::string& rtf, char32_t point) {
     constexpr std::string_view kEscaped = "\\{}";
     const auto byte = ByteOfCodePoint(point);
     if (point >= 0x10000) {
-        AppendUnit(rtf, 0xD800 + ((point - 0x10000) >> 10U));
-        AppendUnit(rtf, 0xDC00 + ((point - 0x10000) & 0x3FFU));
+        AppendUnit(rtf, FirstHalfOf(point));
+        AppendUnit(rtf, SecondHalfOf(point));
     } else if (!byte) {
         AppendUnit(rtf, point);
     } else if (*byte >= 0x80) {

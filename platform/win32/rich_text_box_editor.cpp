@@ -10,6 +10,7 @@
 
 #include "platform/rtf/rtf_reader.h"
 #include "platform/rtf/rtf_writer.h"
+#include "platform/utf16.h"
 #include "platform/win32/rich_text_box_library.h"
 #include "platform/win32/win32_text.h"
 
@@ -48,8 +49,6 @@ std::string WithoutLineEnd(std::string rtf) {
     }
     return rtf;
 }
-
-bool IsFirstHalf(wchar_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 
 }  // namespace
 

@@ -9,7 +9,9 @@ TEST(LowerCaseTest, LettersOfEveryAlphabetOfPlayersGetSmall) {
     EXPECT_EQ(LowerCase("QUAKE2 baseq2"), "quake2 baseq2");
     EXPECT_EQ(LowerCase("GRÖSSE ÅÉÑ"), "grösse åéñ");
     EXPECT_EQ(LowerCase("ДУЭЛЬ ЁЖ"), "дуэль ёж");
-    EXPECT_EQ(LowerCase("ΑΩΣ"), "αωσ");
+    EXPECT_EQ(LowerCase("ΑΩΣ ΆΈΉΊΌΎΏΪΫ"), "αωσ άέήίόύώϊϋ");
+    EXPECT_EQ(LowerCase("ŸȘȚ ƠƯǍ"), "ÿșț ơưǎ");
+    EXPECT_EQ(LowerCase("ӀӁ"), "ӏӂ");
     EXPECT_EQ(LowerCase("ŁÓDŹ ČŠŽ Ğ"), "łódź čšž ğ");
 }
 
