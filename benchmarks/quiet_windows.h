@@ -26,7 +26,7 @@ class QuietWindows : public WindowServices {
     void Sound(Beep /*beep*/) override {}
     std::uint16_t KeyState(PollKey key) override { return real_.KeyState(key); }
     bool IsDown(PollKey key) override { return real_.IsDown(key); }
-    void SetPointer(Pointer pointer) override { real_.SetPointer(pointer); }
+    Pointer SetPointer(Pointer pointer) override { return real_.SetPointer(pointer); }
     void PumpPending() override { real_.PumpPending(); }
     void Sleep(int milliseconds) override { real_.Sleep(milliseconds); }
 

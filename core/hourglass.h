@@ -7,15 +7,16 @@ namespace zentar {
 
 class Hourglass {
   public:
-    explicit Hourglass(WindowServices& windows) : windows_(windows) {
-        windows_.SetPointer(Pointer::Hourglass);
-    }
-    ~Hourglass() { windows_.SetPointer(Pointer::Default); }
+    explicit Hourglass(WindowServices& windows)
+        : windows_(windows), before_(windows.SetPointer(Pointer::Hourglass)) {}
+    // Another piece of work may be the one during which this one was done.
+    ~Hourglass() { windows_.SetPointer(before_); }
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 
   private:
     WindowServices& windows_;
+    Pointer before_;
 };
 
 }  // namespace zentar

@@ -87,7 +87,8 @@ class WindowServices {
     // Whether a key was down when the input that is being handled came. Does not count as a query
     // of KeyState.
     virtual bool IsDown(PollKey key) = 0;
-    virtual void SetPointer(Pointer pointer) = 0;
+    // Gives the pointer that was shown before.
+    virtual Pointer SetPointer(Pointer pointer) = 0;
     // Handles the window messages that are waiting, so that windows repaint. Event procedures may
     // run inside this call. A request to close the program is put off until the outermost event
     // procedure has returned.

@@ -117,10 +117,12 @@ bool Win32WindowServices::IsDown(PollKey key) {
     return GetKeyState(key == PollKey::Shift ? VK_SHIFT : VK_CONTROL) < 0;
 }
 
-void Win32WindowServices::SetPointer(Pointer pointer) {
-    if (std::exchange(session_.pointer, pointer) != pointer) {
+Pointer Win32WindowServices::SetPointer(Pointer pointer) {
+    const Pointer before = std::exchange(session_.pointer, pointer);
+    if (before != pointer) {
         RefreshPointer();
     }
+    return before;
 }
 
 void Win32WindowServices::PumpPending() { session_.loop.RunPending(); }

@@ -22,7 +22,7 @@ class Win32WindowServices : public WindowServices {
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
     bool IsDown(PollKey key) override;
-    void SetPointer(Pointer pointer) override;
+    Pointer SetPointer(Pointer pointer) override;
     void PumpPending() override;
     void Sleep(int milliseconds) override;
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <utility>
 
 namespace zentar {
 namespace {
@@ -158,10 +159,10 @@ std::uint16_t ScriptedWindows::KeyState(PollKey key) {
     return now;
 }
 
-void ScriptedWindows::SetPointer(Pointer pointer) {
-    pointer_ = pointer;
+Pointer ScriptedWindows::SetPointer(Pointer pointer) {
     pointers_.push_back(pointer);
     Log(pointer == Pointer::Default ? "Pointer Default" : "Pointer Hourglass");
+    return std::exchange(pointer_, pointer);
 }
 
 void ScriptedWindows::PumpPending() {

@@ -100,7 +100,7 @@ class ScriptedWindows : public ScriptedDialogs {
     bool HasWindowTitled(const std::string& title) override;
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
-    void SetPointer(Pointer pointer) override;
+    Pointer SetPointer(Pointer pointer) override;
     bool IsDown(PollKey key) override { return down_.contains(key); }
     void PumpPending() override;
     void Sleep(int milliseconds) override;

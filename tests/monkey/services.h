@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/shell.h"
@@ -39,7 +40,7 @@ class MonkeyWindows : public WindowServices {
     void Sound(Beep beep) override;
     std::uint16_t KeyState(PollKey key) override;
     bool IsDown(PollKey key) override;
-    void SetPointer(Pointer pointer) override { pointer_ = pointer; }
+    Pointer SetPointer(Pointer pointer) override { return std::exchange(pointer_, pointer); }
     void PumpPending() override;
     void Sleep(int /*milliseconds*/) override {}
 
