@@ -11,7 +11,7 @@ constexpr std::size_t kPiece = std::size_t{256} * 1024;
 }  // namespace
 
 FileReplacement::FileReplacement(FileSystem& files, const std::string& path, Durability durability)
-    : FileReplacement(files, path, path + ".new", durability) {}
+    : FileReplacement(files, path, path + std::string(kTemporaryEnd), durability) {}
 
 FileReplacement::FileReplacement(FileSystem& files, std::string path, std::string temporary,
                                  Durability durability)

@@ -15,9 +15,13 @@ enum class Durability : std::uint8_t {
     Cached,   // for what the program can make again: after a power cut the file may be empty
 };
 
-// A file written piece by piece under a temporary name in the same folder (the path and ".new",
-// unless given), then flushed, checked, and put in the place of `path` in one step. Without that
-// step `path` is untouched and the temporary file is gone, as far as the disk still allows.
+// Behind a file's own name: nothing that a user would call a file.
+inline constexpr std::string_view kTemporaryEnd = ".zentar-new";
+
+// A file written piece by piece under a temporary name in the same folder (the path and
+// kTemporaryEnd, unless given), then flushed, checked, and put in the place of `path` in one step.
+// Without that step `path` is untouched and the temporary file is gone, as far as the disk still
+// allows.
 class FileReplacement {
   public:
     FileReplacement(FileSystem& files, const std::string& path,

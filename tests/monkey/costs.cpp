@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/atomic_file.h"
 #include "core/file_name.h"
 #include "core/text.h"
 #include "demos/demo_name.h"
@@ -34,12 +35,15 @@ bool Holds(const std::vector<std::string>& paths, const std::string& folded) {
 
 // Names under which nothing but the program's own files stands.
 bool IsOwnName(std::string_view name) {
-    constexpr std::array<std::string_view, 9> kOwn = {
-        "zentar.ini",     "zentar-tmp.gif",  "zentar-tmp.htm", "zentar-help.htm",
-        "zentar.tmp",     "zentar-copy.tmp", "zentar-jpg.tmp", "single-player backups.txt",
-        "strays info.txt"};
-    return std::find(kOwn.begin(), kOwn.end(), name) != kOwn.end() || name == "tmp.bmp" ||
-           name == "q3config.cfg-" || name == "zentar-wallpaper.bmp" || name.ends_with(".new");
+    constexpr std::array<std::string_view, 14> kOwn = {
+        "zentar.ini",          "zentar.ini.new",
+        "zentar-tmp.gif",      "zentar-tmp.htm",
+        "zentar-help.htm",     "zentar.tmp",
+        "zentar-copy.tmp",     "zentar-jpg.tmp",
+        "zentar-jpg.tmp.lock", "single-player backups.txt",
+        "strays info.txt",     "tmp.bmp",
+        "q3config.cfg-",       "zentar-wallpaper.bmp"};
+    return std::find(kOwn.begin(), kOwn.end(), name) != kOwn.end() || name.ends_with(kTemporaryEnd);
 }
 
 // A preview beside a screenshot, which is made anew whenever the shot is viewed. Packs of the game

@@ -16,7 +16,7 @@ using ::testing::ElementsAre;
 using ::testing::Not;
 
 const std::string kPath = "C:\\file.bmp";
-const std::string kFlush = "Flush C:\\file.bmp.new";
+const std::string kFlush = "Flush C:\\file.bmp.zentar-new";
 
 class AtomicFileTest : public ::testing::Test {
   protected:
@@ -26,10 +26,11 @@ class AtomicFileTest : public ::testing::Test {
 
 TEST_F(AtomicFileTest, WhatIsToLastIsOnTheDiskBeforeItTakesThePlace) {
     EXPECT_TRUE(ReplaceFileContents(files_, kPath, "new").Ok());
-    EXPECT_THAT(files_.Calls(),
-                ElementsAre("OpenForWriting C:\\file.bmp.new", "Write C:\\file.bmp.new", kFlush,
-                            "Close C:\\file.bmp.new", "Info C:\\file.bmp.new",
-                            "Replace C:\\file.bmp.new -> C:\\file.bmp"));
+    EXPECT_THAT(
+        files_.Calls(),
+        ElementsAre("OpenForWriting C:\\file.bmp.zentar-new", "Write C:\\file.bmp.zentar-new",
+                    kFlush, "Close C:\\file.bmp.zentar-new", "Info C:\\file.bmp.zentar-new",
+                    "Replace C:\\file.bmp.zentar-new -> C:\\file.bmp"));
     EXPECT_EQ(inner_.Contents(kPath), "new");
 }
 

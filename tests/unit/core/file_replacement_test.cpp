@@ -17,7 +17,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 const std::string kPath = "C:\\chat (transcript).txt";
-const std::string kWrite = "Write C:\\chat (transcript).txt.new";
+const std::string kWrite = "Write C:\\chat (transcript).txt.zentar-new";
 constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 class FileReplacementTest : public ::testing::Test {
@@ -81,7 +81,7 @@ TEST_F(FileReplacementTest, UntilItIsFinishedTheOldFileStands) {
         replacement.Write(std::string(2 * kPiece, 'x'));
         EXPECT_EQ(inner_.Contents(kPath), "old");
         EXPECT_THAT(inner_.Names("C:\\"),
-                    ElementsAre("chat (transcript).txt", "chat (transcript).txt.new"));
+                    ElementsAre("chat (transcript).txt", "chat (transcript).txt.zentar-new"));
     }
     EXPECT_EQ(inner_.Contents(kPath), "old");
     EXPECT_THAT(inner_.Names("C:\\"), ElementsAre("chat (transcript).txt"));

@@ -80,7 +80,7 @@ TEST_F(LogitechTest, ARestartEndsTheProgramInOrder) {
     EXPECT_TRUE(Window().Closed());
     EXPECT_TRUE(
         os.log.Ordered({"WriteString " + kLogitechKey + " MouseHookDLLEnable", "RestartWindows",
-                        "Replace c:\\program files\\zentar\\zentar.ini.new -> "
+                        "Replace c:\\program files\\zentar\\zentar.ini.zentar-new -> "
                         "c:\\program files\\zentar\\zentar.ini"}));
 }
 

@@ -297,7 +297,7 @@ TEST_F(Q3ConfigProgramTest, ItIsDescribedAtTheStartAndInItsPlace) {
     WriteSettings({"Game=Quake3"});
     Start();
     EXPECT_TRUE(os.log.Ordered({"CreateFolder " + kBackups,
-                                "Replace " + kBackups + "Single-Player Backups.txt.new -> " +
+                                "Replace " + kBackups + "Single-Player Backups.txt.zentar-new -> " +
                                     kBackups + "Single-Player Backups.txt",
                                 "lstDemoFilter.SetItems(31)", "Enumerate " + kQuake3Folder}));
 }

@@ -274,7 +274,7 @@ TEST_F(SettingsTest, AReadOnlyFileIsLeftAlone) {
     Quit();
     EXPECT_EQ(os.files.Contents(kIni), before);
     EXPECT_TRUE(os.files.IsReadOnly(kIni));
-    EXPECT_FALSE(os.files.Exists(kIni + ".new"));
+    EXPECT_FALSE(os.files.Exists(kIni + ".zentar-new"));
 }
 
 TEST_F(SettingsTest, AFileThatCannotBeReadIsNotOverwrittenWithDefaults) {
@@ -303,7 +303,7 @@ TEST_F(SettingsTest, AFullDiskLeavesTheOldFileWhole) {
     os.files.SetFreeSpace("C:\\", 100);
     Quit();
     EXPECT_EQ(os.files.Contents(kIni), before);
-    EXPECT_FALSE(os.files.Exists(kIni + ".new"));
+    EXPECT_FALSE(os.files.Exists(kIni + ".zentar-new"));
 }
 
 // ---- Files that are no settings files ----

@@ -66,7 +66,7 @@ TEST_F(ShutdownTest, HiddenGameFilesArePutBackBetweenSettingsAndTemporaryFiles) 
     Quit();
     EXPECT_TRUE(os.files.Exists(kQuake3Folder + "baseq3\\pak4.pk3"));
     EXPECT_TRUE(os.log.Ordered(
-        {"Replace c:\\program files\\zentar\\zentar.ini.new -> "
+        {"Replace c:\\program files\\zentar\\zentar.ini.zentar-new -> "
          "c:\\program files\\zentar\\zentar.ini",
          "Rename " + kQuake3Folder + "baseq3\\pak4.zentar -> " + kQuake3Folder + "baseq3\\pak4.pk3",
          "Delete C:\\Windows\\zentar-tmp.gif"}));
@@ -85,7 +85,7 @@ TEST_F(ShutdownTest, SettingsComeFirstThenTheTemporaryFilesGo) {
     os.log.Clear();
     Quit();
     EXPECT_TRUE(
-        os.log.Ordered({"Replace c:\\program files\\zentar\\zentar.ini.new -> "
+        os.log.Ordered({"Replace c:\\program files\\zentar\\zentar.ini.zentar-new -> "
                         "c:\\program files\\zentar\\zentar.ini",
                         "Delete C:\\Windows\\zentar-tmp.gif"}));
     EXPECT_FALSE(os.files.Exists("C:\\Windows\\zentar-tmp.gif"));

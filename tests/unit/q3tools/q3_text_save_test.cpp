@@ -191,8 +191,9 @@ TEST_F(Q3TextSaveTest, AnOlderFileLosesItsAttributesBeforeItIsReplaced) {
     os.files.AddFile(path_, "older");
     os.files.SetHidden(path_);
     Save("Ab", path_);
-    EXPECT_TRUE(os.log.Ordered({"ClearAttributes " + path_, "OpenForWriting " + path_ + ".new",
-                                "Replace " + path_ + ".new -> " + path_}));
+    EXPECT_TRUE(
+        os.log.Ordered({"ClearAttributes " + path_, "OpenForWriting " + path_ + ".zentar-new",
+                        "Replace " + path_ + ".zentar-new -> " + path_}));
 }
 
 TEST_F(Q3TextSaveTest, ASaveThatFailsIsToldOfAndLeavesTheOlderFile) {

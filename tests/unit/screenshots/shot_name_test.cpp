@@ -37,7 +37,7 @@ TEST(ShotNameTest, PreviewsAreKnownInAnyCase) {
     EXPECT_TRUE(IsPreview("shot.zentar"));
     EXPECT_TRUE(IsPreview("SHOT.ZENTAR"));
     EXPECT_FALSE(IsPreview("zentar"));
-    EXPECT_FALSE(IsPreview("shot.zentar.new"));
+    EXPECT_FALSE(IsPreview("shot.zentar.zentar-new"));
 }
 
 TEST(ShotNameTest, WallpapersOfTheProgramAreKnownInAnyCase) {
@@ -46,7 +46,7 @@ TEST(ShotNameTest, WallpapersOfTheProgramAreKnownInAnyCase) {
     EXPECT_TRUE(IsWallpaper("[ZENTAR] .bmp"));
     EXPECT_FALSE(IsWallpaper("[Zentar]shot.bmp"));
     EXPECT_FALSE(IsWallpaper("My [Zentar] shot.bmp"));
-    EXPECT_FALSE(IsWallpaper("[Zentar] shot.bmp.new"));
+    EXPECT_FALSE(IsWallpaper("[Zentar] shot.bmp.zentar-new"));
     EXPECT_FALSE(IsWallpaper("Zapotec.bmp"));
     EXPECT_FALSE(IsWallpaper("[Zentar] "));
 }

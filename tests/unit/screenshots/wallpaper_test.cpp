@@ -37,8 +37,8 @@ TEST_F(WallpaperTest, TheWholeShotIsSavedInTheWindowsFolderAndSet) {
     EXPECT_EQ(os.shell.wallpaper, kPath);
     EXPECT_THAT(os.windows.Sounds(), ElementsAre(Beep::Information));
     EXPECT_TRUE(os.log.Ordered({"Form2.ShowPopup(mnuScreenshot)", "Pointer Hourglass", "Pump",
-                                "Replace " + kPath + ".new -> " + kPath, "SetWallpaper " + kPath,
-                                "Pointer Default"}));
+                                "Replace " + kPath + ".zentar-new -> " + kPath,
+                                "SetWallpaper " + kPath, "Pointer Default"}));
     EXPECT_EQ(Shown(), "duel");
     EXPECT_TRUE(MenuEnabled(IDM_mnuScreenshotDeleteAllWallpaper));
 }

@@ -63,9 +63,9 @@ TEST_F(CreateTranscriptTest, DoesItsStepsInOrder) {
         "ClearAttributes " + log_,
         "OpenForWriting " + log_,
         "OpenForReading " + log_,
-        "OpenForWriting " + txt_ + ".new",
+        "OpenForWriting " + txt_ + ".zentar-new",
         "ClearAttributes " + txt_,
-        "Replace " + txt_ + ".new -> " + txt_,
+        "Replace " + txt_ + ".zentar-new -> " + txt_,
         "StartProgram C:\\Windows\\notepad.exe \"" + txt_ + "\"",
         "Pointer Default",
     }));

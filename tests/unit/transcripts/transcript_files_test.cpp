@@ -53,7 +53,7 @@ class TranscriptFilesTest : public ChatFrameTest {
         CreateOf(log);
         EXPECT_THAT(os.windows.Sounds(), ElementsAre(Beep::Exclamation));
         EXPECT_EQ(os.windows.CurrentPointer(), Pointer::Default);
-        EXPECT_THAT(os.files.Names(Folder()), Not(Contains(EndsWith(".new"))));
+        EXPECT_THAT(os.files.Names(Folder()), Not(Contains(EndsWith(".zentar-new"))));
     }
 
     const std::string log_;
