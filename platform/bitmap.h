@@ -18,8 +18,4 @@ class Bitmap {
 // Null stands for no picture.
 using BitmapPtr = std::shared_ptr<const Bitmap>;
 
-// What a picture may measure at most, in pixels. One of an 8K screen has 33 million; a file that
-// claims more is not decoded, so that none takes the memory of the whole machine.
-inline constexpr long long kMostPixels = 40'000'000;
-
 }  // namespace zentar

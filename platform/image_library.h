@@ -1,6 +1,6 @@
 // The image library that comes with the program and lives in the Windows folder as nviewlib.dll.
 //
-// It decodes TGA, PCX, JPG and BMP files and keeps the one loaded last as its current image.
+// It decodes TGA, PCX, JPG, BMP and GIF files and keeps the one loaded last as its current image.
 #pragma once
 
 #include <string>
@@ -18,7 +18,7 @@ class ImageLibrary {
     // current image.
     virtual BitmapPtr Load(const std::string& path) = 0;
     // Writes the current image as a JPEG file, over one that is there; quality 0 to 100. On failure
-    // a part of the file may stand there.
+    // one that was there is as it was.
     virtual bool SaveAsJpg(int quality, const std::string& path) = 0;
 };
 

@@ -1,6 +1,7 @@
 // The system's own picture services.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -9,11 +10,14 @@
 
 namespace zentar {
 
+// A longer file holds no picture that would be decoded.
+inline constexpr std::uint64_t kLongestPictureFile = std::uint64_t{208} << 20U;
+
 class Pictures {
   public:
     virtual ~Pictures() = default;
     // The picture in a JPG, BMP or GIF file's bytes. Null when there is none, or when it has more
-    // pixels than kMostPixels.
+    // than 40 million pixels.
     virtual BitmapPtr Decode(std::string_view file) = 0;
     // The whole picture in another size, its proportions not kept. Null when memory is short.
     virtual BitmapPtr Stretch(const Bitmap& picture, Size size) = 0;

@@ -4,15 +4,9 @@
 #include "platform/pictures.h"
 
 namespace zentar {
-namespace {
-
-// Longer files hold nothing that would be decoded.
-constexpr std::uint64_t kLongestFile = std::uint64_t{208} << 20U;
-
-}  // namespace
 
 BitmapPtr ReadPicture(const Platform& platform, const std::string& path) {
-    const Result<std::string> bytes = ReadWholeFile(platform.files, path, kLongestFile);
+    const Result<std::string> bytes = ReadWholeFile(platform.files, path, kLongestPictureFile);
     return bytes.Ok() ? platform.pictures.Decode(bytes.Value()) : nullptr;
 }
 

@@ -1,10 +1,9 @@
-// Colours on their way into a raster, and the numbers of the formats' headers.
+// Colours on their way into a raster.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <span>
 
 namespace nviewlib {
 
@@ -32,11 +31,6 @@ inline void PutPixels(std::uint8_t* to, std::size_t count, ColourOf colourOf) {
     }
     const Colour last = colourOf(count - 1);
     std::memcpy(to, &last, kPixelBytes);
-}
-
-// Two bytes, the lower first.
-inline unsigned WordAt(std::span<const std::uint8_t> bytes, std::size_t at) {
-    return bytes[at] | (static_cast<unsigned>(bytes[at + 1]) << 8U);
 }
 
 }  // namespace nviewlib

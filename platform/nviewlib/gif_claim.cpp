@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "platform/nviewlib/claim_reader.h"
+#include "platform/nviewlib/byte_reader.h"
 #include "platform/nviewlib/claimed_size.h"
 
 namespace nviewlib {
@@ -15,7 +15,7 @@ constexpr unsigned kHasColours = 0x80;
 // The longest string that one code of twelve bits stands for, rounded up.
 constexpr std::int64_t kMostPixelsPerByte = 4096;
 
-bool BeginsWith(ClaimReader& reader, std::string_view text) {
+bool BeginsWith(ByteReader& reader, std::string_view text) {
     for (const char c : text) {
         if (reader.Byte() != static_cast<std::uint8_t>(c)) {
             return false;
@@ -24,19 +24,19 @@ bool BeginsWith(ClaimReader& reader, std::string_view text) {
     return true;
 }
 
-void SkipColours(ClaimReader& reader, unsigned flags) {
+void SkipColours(ByteReader& reader, unsigned flags) {
     if ((flags & kHasColours) != 0) {
         reader.Skip(std::size_t{3} << ((flags & 7U) + 1));
     }
 }
 
-void SkipBlocks(ClaimReader& reader) {
+void SkipBlocks(ByteReader& reader) {
     for (std::uint8_t length = reader.Byte(); length != 0; length = reader.Byte()) {
         reader.Skip(length);
     }
 }
 
-ImageSize ReadImage(ClaimReader& reader) {
+ImageSize ReadImage(ByteReader& reader) {
     reader.Skip(4);
     const int width = reader.LittleWord();
     const int height = reader.LittleWord();
@@ -51,7 +51,7 @@ std::int64_t Area(ImageSize size) { return std::int64_t{size.width} * size.heigh
 }  // namespace
 
 std::optional<Claim> ReadGifClaim(std::span<const std::uint8_t> file) {
-    ClaimReader reader(file);
+    ByteReader reader(file);
     if (!BeginsWith(reader, "GIF8")) {
         return std::nullopt;
     }

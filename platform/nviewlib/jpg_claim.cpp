@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "platform/nviewlib/claim_reader.h"
+#include "platform/nviewlib/byte_reader.h"
 #include "platform/nviewlib/claimed_size.h"
+#include "platform/nviewlib/jpg_tables.h"
 
 namespace nviewlib {
 namespace {
@@ -24,8 +25,8 @@ constexpr std::uint8_t kStartOfScan = 0xDA;
 
 constexpr int kMostComponents = 4;
 constexpr int kMostSampling = 4;
-constexpr int kBlockSide = 8;
-constexpr std::int64_t kCoefficientBytes = 2 * kBlockSide * kBlockSide;
+constexpr int kSide = static_cast<int>(kBlockSide);
+constexpr std::int64_t kCoefficientBytes = 2 * kBlockValues;
 
 struct Frame {
     ImageSize size;
@@ -38,7 +39,7 @@ int CeilDivide(int value, int by) { return (value + by - 1) / by; }
 
 // Moves behind the next marker. Between two of them there may be anything but the byte that begins
 // one.
-std::uint8_t NextMarker(ClaimReader& file) {
+std::uint8_t NextMarker(ByteReader& file) {
     std::uint8_t byte = 0;
     do {
         while (!file.Failed() && byte != 0xFF) {
@@ -60,7 +61,7 @@ bool StandsAlone(std::uint8_t marker) {
     return marker == kTemporary || (marker >= kFirstRestart && marker <= kLastRestart);
 }
 
-std::optional<Frame> ReadFrame(ClaimReader segment, std::uint8_t marker) {
+std::optional<Frame> ReadFrame(ByteReader segment, std::uint8_t marker) {
     Frame frame;
     frame.progressive = marker == kProgressiveFrame;
     const int bitsPerValue = segment.Byte();
@@ -87,8 +88,8 @@ std::optional<Frame> ReadFrame(ClaimReader segment, std::uint8_t marker) {
         perUnit += horizontal * vertical;
         segment.Skip(1);
     }
-    frame.blocks = std::int64_t{CeilDivide(frame.size.width, kBlockSide * across)} *
-                   CeilDivide(frame.size.height, kBlockSide * down) * perUnit;
+    frame.blocks = std::int64_t{CeilDivide(frame.size.width, kSide * across)} *
+                   CeilDivide(frame.size.height, kSide * down) * perUnit;
     return segment.Failed() || frame.blocks == 0 ? std::nullopt : std::optional<Frame>(frame);
 }
 
@@ -107,7 +108,7 @@ std::optional<Claim> ClaimOf(const Frame& frame, int componentsInScan, std::size
 }  // namespace
 
 std::optional<Claim> ReadJpgClaim(std::span<const std::uint8_t> file) {
-    ClaimReader reader(file);
+    ByteReader reader(file);
     if (reader.Byte() != 0xFF || reader.Byte() != kStartOfImage) {
         return std::nullopt;
     }
@@ -117,7 +118,7 @@ std::optional<Claim> ReadJpgClaim(std::span<const std::uint8_t> file) {
         if (StandsAlone(marker)) {
             continue;
         }
-        const ClaimReader segment(file, reader.At() + 2);
+        const ByteReader segment(file, reader.At() + 2);
         const int length = reader.BigWord();
         if (reader.Failed() || length < 2 || marker == kEndOfImage || marker == kStartOfImage) {
             return std::nullopt;

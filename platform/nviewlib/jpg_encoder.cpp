@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "platform/nviewlib/colour.h"
 #include "platform/nviewlib/jpg_bits.h"
 #include "platform/nviewlib/jpg_block.h"
 #include "platform/nviewlib/jpg_tables.h"
@@ -13,7 +14,6 @@ namespace nviewlib {
 namespace {
 
 constexpr int kLongestSide = 65535;
-constexpr std::size_t kBytesPerPixel = 3;
 // Four blocks of brightness and one of each colour difference cover this square.
 constexpr std::size_t kUnitSide = 2 * kBlockSide;
 
@@ -35,10 +35,10 @@ struct Planes {
 template <typename Value>
 void ReadPixels(const std::uint8_t* line, std::size_t imageWidth, std::size_t width, Value put) {
     for (std::size_t x = 0; x < imageWidth; ++x) {
-        put(x, line + kBytesPerPixel * x);
+        put(x, line + kPixelBytes * x);
     }
     for (std::size_t x = imageWidth; x < width; ++x) {
-        put(x, line + kBytesPerPixel * (imageWidth - 1));
+        put(x, line + kPixelBytes * (imageWidth - 1));
     }
 }
 

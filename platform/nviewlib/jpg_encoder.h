@@ -13,7 +13,7 @@
 namespace nviewlib {
 
 // The file's bytes; nothing for an image that is longer or wider than such a file can say. Quality
-// 0 to 100 scales the tables for quantisation as everyone does: 50 leaves them, 100 loses least.
+// 0 to 100 scales the tables for quantisation: 50 leaves them, 100 loses least.
 [[nodiscard]] std::optional<std::vector<std::uint8_t>> EncodeJpg(const Raster& raster,
                                                                  ImageSize size, int quality);
 

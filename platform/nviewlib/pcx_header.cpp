@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/nviewlib/byte_reader.h"
+
 namespace nviewlib {
 
 namespace {

@@ -25,7 +25,8 @@ struct Raster {
 // once, and only when the file is long enough to hold an image of that size.
 using RasterMaker = std::function<Raster(ImageSize)>;
 
-// More pixels than this are not decoded, whatever the file says.
+// More pixels than this are not decoded, whatever the file says, so that none takes the memory of
+// the whole machine. A picture of an 8K screen has 33 million.
 inline constexpr std::int64_t kMostPixels = 40'000'000;
 
 }  // namespace nviewlib

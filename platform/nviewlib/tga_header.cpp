@@ -1,6 +1,6 @@
 #include "platform/nviewlib/tga_header.h"
 
-#include "platform/nviewlib/colour.h"
+#include "platform/nviewlib/byte_reader.h"
 
 namespace nviewlib {
 
@@ -48,8 +48,7 @@ std::optional<TgaPixel> PixelOf(unsigned type, unsigned bits) {
                    : bits == 16 ? std::optional(TgaPixel::Index16)
                                 : std::nullopt;
         case kTrueColour:
-            // Eight bits are too few for a colour. Who writes them means grey, and so it is read
-            // everywhere.
+            // Eight bits are too few for a colour, so they are grey.
             return bits == 8 ? TgaPixel::Grey8 : ColourOf(bits);
         case kGrey:
             return bits == 8    ? std::optional(TgaPixel::Grey8)

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "platform/nviewlib/byte_reader.h"
 #include "platform/nviewlib/colour.h"
 
 namespace nviewlib {
@@ -24,7 +25,7 @@ struct TgaGrey16 {
 struct TgaColour16 {
     static constexpr std::size_t kBytes = 2;
     Colour operator()(const std::uint8_t* at) const {
-        const unsigned bits = at[0] | (static_cast<unsigned>(at[1]) << 8U);
+        const unsigned bits = WordAt({at, kBytes}, 0);
         return {Stretch(bits), Stretch(bits >> 5U), Stretch(bits >> 10U)};
     }
     static std::uint8_t Stretch(unsigned bits) {
@@ -56,9 +57,7 @@ struct TgaIndex8 {
 struct TgaIndex16 {
     static constexpr std::size_t kBytes = 2;
     const Colour* table;
-    Colour operator()(const std::uint8_t* at) const {
-        return table[at[0] | (static_cast<unsigned>(at[1]) << 8U)];
-    }
+    Colour operator()(const std::uint8_t* at) const { return table[WordAt({at, kBytes}, 0)]; }
 };
 
 // Writes `count` pixels that stand one behind the other in the file.

@@ -5,12 +5,16 @@
 #include <cstring>
 #include <new>
 
+#include "platform/nviewlib/win32/image_file.h"
 #include "platform/nviewlib/win32/imaging_component.h"
 #include "platform/win32/picture_scaler.h"
 #include "platform/win32/win32_bitmap.h"
 
 namespace zentar {
 namespace {
+
+// What the image library reads, the program reads as well.
+static_assert(kLongestPictureFile == nviewlib::kLongestFile);
 
 std::string BmpFile(const Win32Bitmap& bitmap) {
     const Size size = bitmap.Dimensions();

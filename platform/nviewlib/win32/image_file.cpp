@@ -43,13 +43,11 @@ Handle Open(const std::wstring& path, DWORD access, DWORD share, DWORD creation)
 
 bool WriteAll(HANDLE file, std::span<const std::uint8_t> bytes) {
     DWORD written = 0;
-    // Emptied after it was opened: creating over a hidden file would fail.
-    return SetEndOfFile(file) &&
-           WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+    return WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
            written == bytes.size();
 }
 
-// Wine lets an administrator write into a read-only file, against the user's wish.
+// Wine lets an administrator replace a read-only file, against the user's wish.
 bool IsReadOnly(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
@@ -89,16 +87,18 @@ bool FileBytes::Read(std::string_view path) {
 
 bool WriteImageFile(std::string_view path, std::span<const std::uint8_t> bytes) {
     const std::wstring native = NativePath(path);
-    Handle file = IsReadOnly(native) ? nullptr : Open(native, GENERIC_WRITE, 0, OPEN_ALWAYS);
+    const std::wstring beside = native + L".new";
+    Handle file = IsReadOnly(native) ? nullptr : Open(beside, GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) {
         return false;
     }
     const bool written = WriteAll(file.get(), bytes);
     file.reset();
-    if (!written) {
-        DeleteFileW(native.c_str());
+    if (written && MoveFileExW(beside.c_str(), native.c_str(), MOVEFILE_REPLACE_EXISTING)) {
+        return true;
     }
-    return written;
+    DeleteFileW(beside.c_str());
+    return false;
 }
 
 }  // namespace nviewlib

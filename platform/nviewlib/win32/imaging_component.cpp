@@ -12,13 +12,13 @@
 #include <vector>
 
 #include "platform/nviewlib/claimed_size.h"
+#include "platform/nviewlib/colour.h"
 #include "platform/nviewlib/plain_bmp.h"
 #include "platform/nviewlib/win32/resources.h"
 
 namespace nviewlib {
 namespace {
 
-constexpr std::size_t kBytesPerPixel = 3;
 // What is decoded at a time: enough to be worth a call, little enough for the processor's cache.
 constexpr std::size_t kBandBytes = std::size_t{256} << 10U;
 
@@ -79,7 +79,7 @@ ComPointer<IWICBitmapSource> Converted(IWICImagingFactory& factory, IWICBitmapSo
 
 // Line by line, since the system gives them top down only.
 bool CopyLines(IWICBitmapSource& source, ImageSize size, const Raster& raster) {
-    const std::size_t line = kBytesPerPixel * static_cast<std::size_t>(size.width);
+    const std::size_t line = kPixelBytes * static_cast<std::size_t>(size.width);
     const int atOnce = static_cast<int>(std::max<std::size_t>(1, kBandBytes / line));
     std::vector<std::uint8_t> band(line * static_cast<std::size_t>(atOnce));
     for (int y = 0; y < size.height; y += atOnce) {

@@ -8,11 +8,14 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/nviewlib/win32/image_file.h"
 #include "platform/nviewlib/win32/nviewlib.h"
 #include "platform/win32/win32_bitmap.h"
 #include "platform/win32/win32_image_library.h"
 #include "platform/win32/win32_text.h"
+#include "screenshots/busy_image.h"
 #include "tests/contract/win32/picture_files.h"
+#include "tests/contract/win32/process_handles.h"
 
 namespace zentar {
 namespace {
@@ -76,6 +79,9 @@ TEST_F(NViewLib, ShowsEveryPixelOfWhatIsStoredWithoutLoss) {
         ExpectPattern(Load("a.tga", TgaOf(size, 32)), size);
         ExpectPattern(Load("a.bmp", BmpOf(size)), size);
     }
+    const BitmapPtr gif = Load("a.tga", std::string(BusyImage()));
+    ASSERT_NE(gif, nullptr);
+    EXPECT_EQ(gif->Dimensions(), (Size{320, 240}));
     const BitmapPtr grey = Load("a.pcx", GreyPcxOf({30, 20}, 77));
     ASSERT_NE(grey, nullptr);
     EXPECT_EQ(grey->Dimensions(), (Size{30, 20}));
@@ -204,6 +210,36 @@ TEST_F(NViewLib, AJpgIsNotWrittenOverAReadOnlyFile) {
     EXPECT_TRUE(BytesOf(Widen(path)).starts_with("\xFF\xD8\xFF"));
 }
 
+// A write of which the disk takes only a part.
+TEST_F(NViewLib, AFileThatCannotBeWrittenWholeLeavesTheOlderOne) {
+    constexpr std::size_t kPage = 4096;
+    auto* const bytes = static_cast<std::uint8_t*>(
+        VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
+    ASSERT_NE(bytes, nullptr);
+    const std::string path = Folder().Write("a.jpg", "the older one");
+    EXPECT_TRUE(nviewlib::WriteImageFile(Folder().Name() + "\\b.jpg", {bytes, 2 * kPage}));
+    DWORD before = 0;
+    ASSERT_TRUE(VirtualProtect(bytes + kPage, kPage, PAGE_NOACCESS, &before));
+    EXPECT_FALSE(nviewlib::WriteImageFile(path, {bytes, 2 * kPage}));
+    EXPECT_EQ(BytesOf(Widen(path)), "the older one");
+    EXPECT_FALSE(fs::exists(Widen(path + ".new")));
+    VirtualFree(bytes, 0, MEM_RELEASE);
+}
+
+TEST_F(NViewLib, AFileThatAnotherProgramHoldsStaysAsItWas) {
+    ASSERT_NE(Load("a.tga", TgaOf({12, 9})), nullptr);
+    const std::string path = Folder().Write("a.jpg", "the older one");
+    {
+        const UniqueFile reader(CreateFileW(Widen(path).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                            nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                                            nullptr));
+        ASSERT_TRUE(reader);
+        EXPECT_FALSE(Library().SaveAsJpg(80, path));
+    }
+    EXPECT_EQ(BytesOf(Widen(path)), "the older one");
+    EXPECT_FALSE(fs::exists(Widen(path + ".new")));
+}
+
 TEST_F(NViewLib, FoldersDevicesAndWrongPathsAreNoImages) {
     for (const std::string& path :
          {Folder().Name(), std::string(), std::string("a.tga"), std::string("C:\\nul\\a.tga"),
@@ -226,12 +262,13 @@ TEST_F(NViewLib, AThousandImagesLeaveNothingBehind) {
     };
     for (int i = 0; i < 20; ++i)
         round();
-    const DWORD handles = OpenHandles();
+    const std::size_t handles = HandlesOf(GetCurrentProcess());
+    ASSERT_GT(handles, 0U);
     const int bitmaps = UniqueBitmap::Live();
     const std::size_t memory = MemoryNow();
     for (int i = 0; i < 250; ++i)
         round();
-    EXPECT_LE(OpenHandles(), handles);
+    EXPECT_LE(HandlesOf(GetCurrentProcess()), handles);
     EXPECT_EQ(UniqueBitmap::Live(), bitmaps);
     // A single image is 230,400 bytes.
     EXPECT_LT(MemoryNow(), memory + (std::size_t{4} << 20U));

@@ -213,6 +213,9 @@ TEST(ClaimedSize, IsAffordableWithinTheLimits) {
     EXPECT_FALSE(affordable(0, 0, 0, 0));
     EXPECT_TRUE(affordable(8000, 5000, std::int64_t{300} << 20U, std::size_t{60} << 20U));
     EXPECT_FALSE(affordable(8000, 5000, std::int64_t{300} << 20U, std::size_t{100} << 20U));
+    // One line that is the whole image is also in the buffer that it comes by.
+    EXPECT_TRUE(affordable(8000, 5000, 160'000'000, 160'000'054));
+    EXPECT_FALSE(affordable(40'000'000, 1, 160'000'000, 160'000'054));
 }
 
 }  // namespace nviewlib

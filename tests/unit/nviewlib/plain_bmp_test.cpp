@@ -92,6 +92,18 @@ TEST(PlainBmp, WhatItsBytesCannotHoldTakesNoMemory) {
     EXPECT_EQ(Decode(file).asked, 0);
 }
 
+TEST(PlainBmp, OneOfMorePixelsThanAreDecodedIsNone) {
+    Bytes file = SmallBmp();
+    file[18] = 0x41;  // 8001
+    file[19] = 0x1F;
+    file[22] = 0x88;  // 5000
+    file[23] = 0x13;
+    file.resize(54 + std::size_t{24'004} * 5000);
+    EXPECT_EQ(Decode(file).asked, 0);
+    file[18] = 0x40;
+    EXPECT_TRUE(Decode(file).done);
+}
+
 TEST(PlainBmp, WithoutRoomThereIsNoImage) {
     EXPECT_FALSE(DecodePlainBmp(SmallBmp(), [](ImageSize) { return Raster{}; }));
 }

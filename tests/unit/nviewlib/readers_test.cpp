@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "platform/nviewlib/byte_reader.h"
 #include "platform/nviewlib/pcx_lines.h"
 #include "platform/nviewlib/tga_readers.h"
 
@@ -21,6 +22,16 @@ TEST(TgaReaders, EndWithTheirBytes) {
     EXPECT_TRUE(packets.Read(to.data(), 2));
     EXPECT_EQ(to, (std::array<std::uint8_t, 6>{7, 7, 7, 8, 8, 8}));
     EXPECT_FALSE(packets.Read(to.data(), 1));
+}
+
+TEST(ByteReader, BehindTheEndThereIsNothing) {
+    const std::vector<std::uint8_t> bytes = {1, 2, 3};
+    ByteReader reader(bytes, 5);
+    EXPECT_FALSE(reader.Failed());
+    reader.Skip(1);
+    EXPECT_TRUE(reader.Failed());
+    EXPECT_EQ(reader.At(), bytes.size());
+    EXPECT_EQ(ByteReader(bytes, 5).Byte(), 0);
 }
 
 TEST(PcxLines, EndWithTheirBytes) {

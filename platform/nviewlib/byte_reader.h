@@ -1,17 +1,23 @@
 // Numbers in the bytes of a file.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
 
 namespace nviewlib {
 
+// Two bytes, the lower first.
+inline unsigned WordAt(std::span<const std::uint8_t> bytes, std::size_t at) {
+    return bytes[at] | (static_cast<unsigned>(bytes[at + 1]) << 8U);
+}
+
 // Goes through bytes from the front. What would stand behind their end reads as 0, and is told.
-class ClaimReader {
+class ByteReader {
   public:
-    explicit ClaimReader(std::span<const std::uint8_t> bytes, std::size_t at = 0)
-        : bytes_(bytes), at_(at) {}
+    explicit ByteReader(std::span<const std::uint8_t> bytes, std::size_t at = 0)
+        : bytes_(bytes), at_(std::min(at, bytes.size())) {}
 
     // Whether something behind the end was asked for.
     bool Failed() const { return failed_; }
