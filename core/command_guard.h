@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "core/scoped_flag.h"
+#include "platform/controls.h"
 
 namespace zentar {
 
@@ -21,5 +23,12 @@ class CommandGuard {
   private:
     bool runs_ = false;
 };
+
+// A click that runs the command under the guard.
+inline ControlEvents GuardedClick(CommandGuard& guard, std::function<void()> command) {
+    ControlEvents events;
+    events.click = [&guard, command = std::move(command)] { guard.Run(command); };
+    return events;
+}
 
 }  // namespace zentar

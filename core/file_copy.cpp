@@ -1,8 +1,7 @@
 #include "core/file_copy.h"
 
-#include <algorithm>
+#include <cstring>
 #include <memory>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -80,9 +79,8 @@ Result<bool> HoldSameBytes(FileSystem& files, const std::string& one, const std:
         if (!gotA.Ok() || !gotB.Ok()) {
             return gotA.Ok() ? gotB.Error() : gotA.Error();
         }
-        const std::span<const std::byte> blockA(a.data(), gotA.Value());
-        const std::span<const std::byte> blockB(b.data(), gotB.Value());
-        if (!std::equal(blockA.begin(), blockA.end(), blockB.begin(), blockB.end())) {
+        // std::equal compares std::byte one by one.
+        if (gotA.Value() != gotB.Value() || std::memcmp(a.data(), b.data(), gotA.Value()) != 0) {
             return false;
         }
         if (gotA.Value() < kBlock) {

@@ -2,6 +2,7 @@
 
 #include "core/file_name.h"
 #include "core/questions.h"
+#include "platform/locale.h"
 
 namespace zentar {
 namespace {
@@ -24,10 +25,23 @@ bool IsOnOneDrive(const FileTransfer& transfer) {
     return DriveOf(transfer.source) == DriveOf(transfer.target);
 }
 
-std::optional<std::uint64_t> SpaceThatIsTooSmall(FileSystem& files, const FileTransfer& transfer,
-                                                 std::uint64_t length) {
-    const Result<std::uint64_t> space = files.FreeSpace(SpaceRoot(FolderOf(transfer.target)));
-    return space.Ok() && space.Value() < length ? std::optional(space.Value()) : std::nullopt;
+bool HasRoom(const Platform& platform, TransferVerb verb, const FileTransfer& transfer,
+             std::uint64_t length, std::string_view thing) {
+    if (verb == TransferVerb::Move && IsOnOneDrive(transfer)) {
+        return true;
+    }
+    const Result<std::uint64_t> space =
+        platform.files.FreeSpace(SpaceRoot(FolderOf(transfer.target)));
+    if (!space.Ok() || space.Value() >= length) {
+        return true;
+    }
+    platform.windows.Ask(
+        messages::NoSpaceFor(verb, {.thing = thing,
+                                    .drive = transfer.target.substr(0, 1),
+                                    .length = length,
+                                    .space = space.Value(),
+                                    .separator = platform.locale.ThousandsSeparator()}));
+    return false;
 }
 
 CopyOutcome CopyToTarget(FileSystem& files, FileTransfer& transfer) {
@@ -67,6 +81,15 @@ OriginalOutcome DeleteTransferred(const Platform& platform, const FileTransfer& 
         return OriginalOutcome::NotDeletable;
     }
     return OriginalOutcome::Gone;
+}
+
+bool DeleteTransferredOrTell(const Platform& platform, const FileTransfer& transfer,
+                             const Message& readOnlyQuestion, const Message& notDeletable) {
+    const OriginalOutcome outcome = DeleteTransferred(platform, transfer, readOnlyQuestion);
+    if (outcome == OriginalOutcome::NotDeletable) {
+        platform.windows.Ask(notDeletable);
+    }
+    return outcome == OriginalOutcome::Gone;
 }
 
 }  // namespace zentar

@@ -3,10 +3,11 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/file_copy.h"
+#include "core/transfer_messages.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
 #include "platform/window_services.h"
@@ -23,10 +24,12 @@ struct FileTransfer {
 
 bool IsOnOneDrive(const FileTransfer& transfer);
 
-// How many bytes are free where the target is to be, when that is less than `length`. A drive that
-// does not say takes the copy, or refuses it.
-std::optional<std::uint64_t> SpaceThatIsTooSmall(FileSystem& files, const FileTransfer& transfer,
-                                                 std::uint64_t length);
+// Whether `length` more bytes fit where the target is to be; tells the user when they do not. A
+// drive that does not say takes the copy, or refuses it. `thing` is what is carried, as the message
+// calls it: "demo".
+[[nodiscard]] bool HasRoom(const Platform& platform, TransferVerb verb,
+                           const FileTransfer& transfer, std::uint64_t length,
+                           std::string_view thing);
 
 CopyOutcome CopyToTarget(FileSystem& files, FileTransfer& transfer);
 // Renames where that suffices, and else copies; the original is then still there.
@@ -41,5 +44,8 @@ enum class OriginalOutcome : std::uint8_t {
 // Deletes the original of a file that was moved by copying it.
 OriginalOutcome DeleteTransferred(const Platform& platform, const FileTransfer& transfer,
                                   const Message& readOnlyQuestion);
+// The same; tells the user when it is not deletable. True when it is gone.
+bool DeleteTransferredOrTell(const Platform& platform, const FileTransfer& transfer,
+                             const Message& readOnlyQuestion, const Message& notDeletable);
 
 }  // namespace zentar

@@ -4,6 +4,7 @@
 
 #include "core/game_folders.h"
 #include "core/messages.h"
+#include "core/scoped_flag.h"
 #include "core/text.h"
 #include "platform/file_system.h"
 
@@ -74,13 +75,12 @@ void GameSelection::RefreshGame() {
 }
 
 void GameSelection::ShowGameAsSelected(const GameInfo& info) {
-    showingGame_ = true;
+    const ScopedFlag showing(showingGame_);
     for (std::size_t i = 0; i < kGameCount; ++i) {
         const bool current = AllGames()[i].id == info.id;
         controls_.mnuGame[i]->SetChecked(current);
         controls_.optGame[i]->SetSelected(current);
     }
-    showingGame_ = false;
 }
 
 void GameSelection::SetContext(const GameInfo& info, const GameState& game) {

@@ -5,15 +5,6 @@
 #include "platform/shell.h"
 
 namespace zentar {
-namespace {
-
-ControlEvents OnClick(std::function<void()> procedure) {
-    ControlEvents events;
-    events.click = std::move(procedure);
-    return events;
-}
-
-}  // namespace
 
 Preferences::Preferences(ProgramState& state, const Platform& platform,
                          const PreferencesControls& controls)

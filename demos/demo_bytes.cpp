@@ -26,10 +26,6 @@ std::int64_t DemoBytes::Find(std::string_view marker) const {
     return at == std::string_view::npos ? -1 : static_cast<std::int64_t>(at);
 }
 
-char DemoBytes::At(std::size_t offset) const {
-    return offset < block_.size() ? block_[offset] : '\0';
-}
-
 Result<std::string> DemoBytes::TextAt(std::int64_t offset, char terminator) const {
     std::string text;
     auto position = static_cast<std::size_t>(offset);

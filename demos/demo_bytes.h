@@ -13,6 +13,10 @@
 
 namespace zentar {
 
+// Where a Quake 2 demo names the game's folder: behind the message's length (4 bytes), its code
+// (1), the protocol, the server's count (4 each) and the byte that tells a demo from a game.
+inline constexpr std::int64_t kQuake2GameFolder = 14;
+
 class DemoBytes {
   public:
     static constexpr std::size_t kBlockSize = 5120;
@@ -26,8 +30,6 @@ class DemoBytes {
     bool Contains(std::string_view marker) const;
     // Offset of the marker's first occurrence in the block; -1 when there is none.
     std::int64_t Find(std::string_view marker) const;
-    // The byte at an offset of the block; 0 behind the end of the file.
-    char At(std::size_t offset) const;
 
     // The bytes from an offset up to the first `terminator`, without it. The end of the file ends
     // the text as well.

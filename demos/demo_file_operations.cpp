@@ -1,14 +1,15 @@
 #include "demos/demo_file_operations.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
+#include "core/file_deletion.h"
 #include "core/file_name.h"
 #include "core/game_text.h"
 #include "core/hourglass.h"
 #include "core/messages.h"
+#include "core/neighbour.h"
 #include "core/questions.h"
 #include "core/text.h"
 #include "demos/demo_messages.h"
@@ -17,12 +18,6 @@
 
 namespace zentar {
 namespace {
-
-Status ForceDelete(FileSystem& files, const std::string& path) {
-    // What refuses this refuses the deletion, too.
-    IgnoreFailure(files.ClearAttributes(path));
-    return files.Delete(path);
-}
 
 // Deletes demos of a list one after the other. Of those that are read-only it asks once: nobody
 // wants to answer a thousand times.
@@ -67,7 +62,7 @@ void DemoFileOperations::DeleteSelected() {
     if (demo.Item.empty() || !Confirmed(state_, platform_.windows, messages::ReallyDeleteDemo())) {
         return;
     }
-    const std::string neighbour = NeighbourOf(demo.Item);
+    const std::string neighbour = NeighbourOf(demo.Item, list_.ListedDemos());
     if (!MayChangeFile(platform_, demo.Path, messages::DeleteReadOnlyDemo())) {
         return;
     }
@@ -80,16 +75,6 @@ void DemoFileOperations::DeleteSelected() {
         list_.SetPendingReselection(neighbour);
     }
     list_.RefreshDemoList();
-}
-
-// The entry after it, or before it if it is the last one; empty when it is the only one.
-std::string DemoFileOperations::NeighbourOf(const std::string& entry) const {
-    const std::vector<std::string> entries = list_.ListedDemos();
-    const auto at = std::find(entries.begin(), entries.end(), entry);
-    if (at == entries.end() || entries.size() == 1) {
-        return {};
-    }
-    return at + 1 == entries.end() ? *(at - 1) : *(at + 1);
 }
 
 void DemoFileOperations::DeleteAllListed() {

@@ -25,7 +25,6 @@ class DemoFileOperations {
     void RenameSelectedWithMap();
 
   private:
-    std::string NeighbourOf(const std::string& entry) const;
     void Rename(const DemoInfo& demo, const std::string& name, const std::string& extension);
 
     const ProgramState& state_;

@@ -26,9 +26,6 @@ constexpr std::string_view kKey = "\\g_synchronousClients\\";
 // level's name.
 constexpr std::string_view kLevelName = "\0\3\3\0"sv;
 
-// Of a Quake 2 demo: behind the block's length (4 bytes), message code (1), protocol (4), server
-// count (4) and a flag (1).
-constexpr std::size_t kGameFolderOffset = 14;
 constexpr std::int64_t kPlayerNumberSize = 2;
 
 HeaderResult NotADemo() { return std::optional<DemoHeader>(); }
@@ -69,11 +66,11 @@ HeaderResult Header(Result<std::string> map, Result<std::string> name,
 }
 
 Result<std::string> Quake2LevelName(const DemoBytes& bytes) {
-    Result<std::string> gameFolder = bytes.TextAt(kGameFolderOffset, '\0');
+    Result<std::string> gameFolder = bytes.TextAt(kQuake2GameFolder, '\0');
     if (!gameFolder.Ok()) {
         return gameFolder;
     }
-    const auto folderEnd = static_cast<std::int64_t>(kGameFolderOffset + gameFolder.Value().size());
+    const auto folderEnd = Behind(kQuake2GameFolder, gameFolder.Value());
     return bytes.TextAt(folderEnd + 1 + kPlayerNumberSize, '\0');
 }
 

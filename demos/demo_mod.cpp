@@ -4,15 +4,13 @@
 #include <cstdint>
 #include <optional>
 
+#include "core/file_name.h"
 #include "demos/demo_bytes.h"
 #include "demos/phrase_search.h"
 
 namespace zentar {
 namespace {
 
-// Behind the message's length (4 bytes), its code, the protocol, the server's count (4 each) and
-// the byte that tells a demo from a game.
-constexpr std::size_t kQuake2Mod = 14;
 constexpr std::string_view kQuake3Key = "\\gamename\\";
 constexpr std::size_t kLongestFolderName = 255;
 
@@ -38,7 +36,7 @@ Result<std::string> ReadQuake2Mod(ReadableFile& file) {
     if (!bytes.Ok()) {
         return bytes.Error();
     }
-    Result<std::string> mod = bytes.Value().TextAt(kQuake2Mod, '\0');
+    Result<std::string> mod = bytes.Value().TextAt(kQuake2GameFolder, '\0');
     if (mod.Ok() && mod.Value().ends_with('\\')) {
         mod.Value().pop_back();
     }
@@ -61,17 +59,10 @@ Result<std::string> ReadQuake3Mod(ReadableFile& file) {
 }
 
 bool IsFolderName(std::string_view name) {
-    constexpr std::string_view kNever = R"(\/:*?"<>|)";
-    if (name.empty() || name.size() > kLongestFolderName || name.ends_with('.') ||
-        name.ends_with(' ')) {
-        return false;
-    }
-    for (const char c : name) {
-        if (static_cast<unsigned char>(c) < ' ' || kNever.find(c) != std::string_view::npos) {
-            return false;
-        }
-    }
-    return true;
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
+    return !name.empty() && name.size() <= kLongestFolderName && !name.ends_with('.') &&
+           !name.ends_with(' ') && !HoldsIllegalCharacter(name) &&
+           std::none_of(name.begin(), name.end(), isControl);
 }
 
 }  // namespace zentar

@@ -32,7 +32,9 @@ std::optional<std::string> DemoEntry(std::string_view fileName, std::string_view
         return std::nullopt;
     }
     name.resize(name.size() - extension.size());
-    return name;
+    // "duel .dm3" would stand for "duel.dm_48", which is then what a deletion would hit.
+    return EndsWithAnyCase(fileName, RealExtension(name, extension)) ? std::optional(name)
+                                                                     : std::nullopt;
 }
 
 std::string_view RealExtension(std::string_view entry, std::string_view extension) {

@@ -15,7 +15,8 @@ inline constexpr std::string_view kDm48 = ".dm_48";
 inline constexpr std::string_view kDm66 = ".dm_66";
 
 // The entry that stands for a file in the list of a game whose demos have `extension` (".dem",
-// ".dm2" or ".dm3"); nothing when the file is no demo of that game by its name.
+// ".dm2" or ".dm3"); nothing when the file is no demo of that game by its name, or when blanks at
+// the end of that name would lead from the entry to another file.
 std::optional<std::string> DemoEntry(std::string_view fileName, std::string_view extension);
 
 // The file behind an entry. `folder` ends in a backslash.

@@ -61,14 +61,13 @@ void DemoProperties::Reset() {
     controls_.labDemoDate.SetText(kNoDate);
 }
 
-void DemoProperties::ShowFile(const Result<FileInfo>& file) {
+void DemoProperties::ShowFile(const DemoInfo& demo, bool isThere) {
     EnableAll(true);
     controls_.labDemoVersion.SetText(kNoVersion);
-    if (file.Ok()) {
-        const FileInfo& info = file.Value();
+    if (isThere) {
         controls_.labDemoSize.SetText(
-            "File size: " + GroupDigits(info.length, locale_.ThousandsSeparator()) + " bytes");
-        controls_.labDemoDate.SetText("Created: " + locale_.GeneralDate(info.lastWrite));
+            "File size: " + GroupDigits(demo.SizeBytes, locale_.ThousandsSeparator()) + " bytes");
+        controls_.labDemoDate.SetText("Created: " + locale_.GeneralDate(demo.Stamp));
     } else {
         controls_.labDemoSize.SetText(kNoFile);
         controls_.labDemoDate.SetText(kNoDate);

@@ -19,8 +19,8 @@ class DemoProperties {
     void Arrange(bool quake3);
     // No demo is selected.
     void Reset();
-    // A demo was selected; its content is not read yet.
-    void ShowFile(const Result<FileInfo>& file);
+    // A demo was selected, whose file is there or not; its content is not read yet.
+    void ShowFile(const DemoInfo& demo, bool isThere);
     // Its content was read.
     void ShowHeader(const DemoInfo& demo);
 

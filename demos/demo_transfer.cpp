@@ -8,7 +8,6 @@
 #include "core/text.h"
 #include "demos/demo_messages.h"
 #include "platform/file_system.h"
-#include "platform/locale.h"
 
 namespace zentar {
 void DemoTransfer::Transfer(TransferVerb verb) {
@@ -37,8 +36,10 @@ void DemoTransfer::Transfer(TransferVerb verb) {
                                              : CopyToTarget(platform_.files, job.file);
     }
     // No message comes between a copy and the deletion of its original, except about that.
-    const bool done =
-        outcome == CopyOutcome::Whole && (!job.file.leavesOriginal || DeleteOriginal(job));
+    const bool done = outcome == CopyOutcome::Whole &&
+                      (!job.file.leavesOriginal ||
+                       DeleteTransferredOrTell(platform_, job.file, messages::DeleteReadOnlyDemo(),
+                                               messages::MovedDemoNotDeleted(job.mod)));
     platform_.windows.PumpPending();
     if (outcome == CopyOutcome::Partial) {
         platform_.windows.Ask(messages::DemoPartlyTransferred(verb, job.mod));
@@ -57,7 +58,7 @@ bool DemoTransfer::MayBegin(Job& job) {
         list_.RefreshDemoList();
         return false;
     }
-    if (!HasRoom(job, source.Value().length) ||
+    if (!HasRoom(platform_, job.verb, job.file, source.Value().length, "demo") ||
         !Confirmed(state_, platform_.windows, messages::ReallyTransferDemo(job.verb))) {
         return false;
     }
@@ -65,33 +66,6 @@ bool DemoTransfer::MayBegin(Job& job) {
     return !job.file.overwrites ||
            (platform_.windows.Ask(messages::DemoExistsInRemoteFolder()) == Answer::Yes &&
             MayChangeFile(platform_, job.file.target, messages::OverwriteReadOnlyDemo()));
-}
-
-bool DemoTransfer::HasRoom(const Job& job, std::uint64_t length) {
-    if (job.verb == TransferVerb::Move && IsOnOneDrive(job.file)) {
-        return true;
-    }
-    const auto space = SpaceThatIsTooSmall(platform_.files, job.file, length);
-    if (space) {
-        platform_.windows.Ask(
-            messages::NoSpaceFor(job.verb, {.thing = "demo",
-                                            .owner = "Demo's",
-                                            .drive = job.file.target.substr(0, 1),
-                                            .length = length,
-                                            .space = *space,
-                                            .separator = platform_.locale.ThousandsSeparator()}));
-    }
-    return !space;
-}
-
-// The original of a moved demo; true when it is gone, or where it was to go.
-bool DemoTransfer::DeleteOriginal(const Job& job) {
-    const OriginalOutcome outcome =
-        DeleteTransferred(platform_, job.file, messages::DeleteReadOnlyDemo());
-    if (outcome == OriginalOutcome::NotDeletable) {
-        platform_.windows.Ask(messages::MovedDemoNotDeleted(job.mod));
-    }
-    return outcome == OriginalOutcome::Gone;
 }
 
 void DemoTransfer::ShowResult(const Job& job, const std::string& item, bool done) {

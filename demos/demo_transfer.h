@@ -4,13 +4,12 @@
 // Folder is replaced only by a whole copy.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "core/file_transfer.h"
 #include "core/program_state.h"
 #include "demos/demo_list_view.h"
-#include "demos/transfer_messages.h"
+#include "demos/demo_transfer_messages.h"
 #include "platform/platform.h"
 
 namespace zentar {
@@ -32,8 +31,6 @@ class DemoTransfer {
 
     void Transfer(TransferVerb verb);
     bool MayBegin(Job& job);
-    bool HasRoom(const Job& job, std::uint64_t length);
-    bool DeleteOriginal(const Job& job);
     void ShowResult(const Job& job, const std::string& item, bool done);
 
     ProgramState& state_;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/hourglass.h"
+#include "core/messages.h"
 #include "demos/demo_menu.h"
 #include "demos/demo_messages.h"
 #include "demos/demo_name.h"
@@ -22,7 +23,10 @@ std::string SearchTermOf(std::string name) {
 
 void DemosTab::lstDemos_Click() {
     const int index = controls_.lstDemos.SelectedIndex();
-    const std::string item = index < 0 ? std::string() : controls_.lstDemos.Item(index);
+    if (index < 0) {
+        return;
+    }
+    const std::string item = controls_.lstDemos.Item(index);
     if (item == demo_.Item) {
         return;
     }
@@ -66,7 +70,7 @@ void DemosTab::ShowSelectedFile() {
         demo_.SizeBytes = file.Value().length;
         demo_.Stamp = file.Value().lastWrite;
     }
-    properties_.ShowFile(file);
+    properties_.ShowFile(demo_, file.Ok());
     controls_.mnuDemosSearch.SetEnabled(true);
 }
 
@@ -133,9 +137,12 @@ void DemosTab::OfferNotADemoRename() {
         return;
     }
     const Status renamed = platform_.files.Rename(path, path + "!");
-    if (!renamed.Ok()) {
+    if (!renamed.Ok() && renamed.Error() != FileError::NotFound) {
         platform_.windows.Ask(messages::NotADemoRenameFailed(renamed.Error()));
         return;
+    }
+    if (!renamed.Ok()) {
+        platform_.windows.Ask(messages::IsGone("demo"));
     }
     RefreshDemoList();
 }

@@ -1,10 +1,12 @@
 #include "firstaid/first_aid_tab.h"
 
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "core/file_reading.h"
 #include "core/game_folders.h"
+#include "core/notepad.h"
 #include "firstaid/first_aid_messages.h"
 #include "firstaid/game_repairs.h"
 #include "firstaid/message_patch.h"
@@ -33,12 +35,8 @@ FirstAidTab::FirstAidTab(ProgramState& state, const Platform& platform,
     ControlEvents list;
     list.click = [this] { lstSymptoms_Click(); };
     controls_.lstSymptoms.SetEvents(std::move(list));
-    ControlEvents first;
-    first.click = [this] { guard_.Run([this] { cmdRemedy1_Click(); }); };
-    controls_.cmdRemedy1.SetEvents(std::move(first));
-    ControlEvents second;
-    second.click = [this] { guard_.Run([this] { cmdRemedy2_Click(); }); };
-    controls_.cmdRemedy2.SetEvents(std::move(second));
+    controls_.cmdRemedy1.SetEvents(GuardedClick(guard_, [this] { cmdRemedy1_Click(); }));
+    controls_.cmdRemedy2.SetEvents(GuardedClick(guard_, [this] { cmdRemedy2_Click(); }));
 }
 
 void FirstAidTab::ClearRemedy() {
@@ -95,7 +93,6 @@ void FirstAidTab::cmdRemedy1_Click() {
 }
 
 void FirstAidTab::ApplyFirst(Symptom symptom) {
-    const GameState& quake2 = state_.games[kQuake2Row];
     switch (symptom) {
         case Symptom::SettingsNotSaved:
             EditAutoexec();
@@ -115,12 +112,8 @@ void FirstAidTab::ApplyFirst(Symptom symptom) {
             break;
         case Symptom::ModelNotSelectable:
         case Symptom::CrashOnModelChange:
-            MoveStrays(platform_.files, quake2.GameFolder, quake2.BaseModPath + "players\\");
-            Tell(true);
-            break;
         case Symptom::CrashOnScreenshot:
-            CreateScreenshotFolders(platform_.files, quake2.GameFolder);
-            Tell(true);
+            RepairFolders(symptom);
             break;
         case Symptom::UnknownToAuth:
         case Symptom::ProtocolVersion:
@@ -133,6 +126,12 @@ void FirstAidTab::ApplyFirst(Symptom symptom) {
         case Symptom::FreezesOnline:
             break;
     }
+}
+
+// A remedy's game need not be the current one.
+bool FirstAidTab::GameFolderIsThere(std::string_view game) {
+    CheckGameFolder(state_, platform_, GameId(game));
+    return state_.GameFolderOK;
 }
 
 void FirstAidTab::EditAutoexec() {
@@ -151,11 +150,7 @@ void FirstAidTab::EditAutoexec() {
     }
     if (platform_.windows.Ask(
             messages::AutoexecExists(state_.settings.Game, game->BaseArgument())) == Answer::Yes) {
-        const Status started = platform_.shell.StartProgram({.folder = state_.WindowsFolder,
-                                                             .executable = "notepad.exe",
-                                                             .arguments = " " + path,
-                                                             .window = StartWindow::Maximised});
-        if (!started.Ok()) {
+        if (!OpenInNotepad(state_, platform_.shell, path).Ok()) {
             Tell(false);
         }
     }
@@ -173,13 +168,32 @@ void FirstAidTab::OpenMouseProperties() {
     }
 }
 
+void FirstAidTab::RepairFolders(Symptom symptom) {
+    if (!GameFolderIsThere(kQuake2)) {
+        return;
+    }
+    const GameState& quake2 = state_.games[kQuake2Row];
+    if (symptom == Symptom::CrashOnScreenshot) {
+        CreateScreenshotFolders(platform_.files, quake2.GameFolder);
+    } else {
+        MoveStrays(platform_.files, quake2.GameFolder, quake2.BaseModPath + "players\\");
+    }
+    Tell(true);
+}
+
 void FirstAidTab::RemoveMessages(Symptom symptom) {
     std::string executable;
     std::vector<std::string_view> texts;
     if (symptom == Symptom::SoundBufferMessages) {
+        if (!GameFolderIsThere(kQuake2)) {
+            return;
+        }
         executable = state_.games[kQuake2Row].GameFolder + "quake2.exe";
         texts = {"Creating DS buffers", "...using primary buffer"};
     } else if (symptom == Symptom::CouldntWriteMessages) {
+        if (!GameFolderIsThere(kQuake3)) {
+            return;
+        }
         executable = state_.games[kQuake3Row].GameFolder + "quake3.exe";
         texts = {"Couldn't write %s.\n"};
     } else {
@@ -217,8 +231,7 @@ void FirstAidTab::CheckForUpdate() {
 
 // Without the game, right values could get wrong ones.
 void FirstAidTab::RestoreRegistry() {
-    CheckGameFolder(state_, platform_, GameId(kQuake3));
-    if (!state_.GameFolderOK) {
+    if (!GameFolderIsThere(kQuake3)) {
         return;
     }
     const std::string& folder = state_.games[kQuake3Row].GameFolder;

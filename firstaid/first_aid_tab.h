@@ -1,16 +1,14 @@
 // The First Aid tab: a symptom's explanation, and the remedies for it.
 #pragma once
 
-#include <functional>
 #include <optional>
-#include <string>
+#include <string_view>
 
 #include "core/command_guard.h"
 #include "core/program_state.h"
 #include "firstaid/symptoms.h"
 #include "platform/controls.h"
 #include "platform/platform.h"
-#include "platform/result.h"
 
 namespace zentar {
 
@@ -51,8 +49,10 @@ class FirstAidTab {
     void ShowButtons(RemedyButtons buttons);
 
     void ApplyFirst(Symptom symptom);
+    bool GameFolderIsThere(std::string_view game);
     void EditAutoexec();
     void OpenMouseProperties();
+    void RepairFolders(Symptom symptom);
     void RemoveMessages(Symptom symptom);
     void RenameDriver(Symptom symptom, bool setAside);
     void CheckForUpdate();

@@ -25,8 +25,8 @@ std::string AutoexecText(const std::string& game) {
 }
 
 std::string StraysText() {
-    return Lines({std::string(kVersionLine) + " Strays Folder",
-                  "Web Site: " + std::string(kWebSite), "-------------------------------",
+    return Lines({std::string(kVersionLine) + " Strays Folder", WebSiteLine(),
+                  "-------------------------------",
                   "The files found here were moved here from Quake 2's \"players\" folder.",
                   "This was done to prevent the game crashing or reporting an error when",
                   "changing your player at the \"Multiplayer\\Player Setup\" menu.  (There",
@@ -45,11 +45,12 @@ std::string Numbered(const std::string& name, int number) {
 // What cannot go after its copy was made stays, and the copy goes.
 Status DeleteOrTakeBack(FileSystem& files, const FolderEntry& stray, const std::string& from,
                         const std::string& to) {
-    if (stray.info.readOnly) {
+    Status deleted = files.DeleteOriginal(from, to);
+    if (!deleted.Ok() && deleted.Error() == FileError::AccessDenied && stray.info.readOnly) {
         // Which keeps it from deletion, but not from being moved.
         IgnoreFailure(files.ClearAttributes(from));
+        deleted = files.DeleteOriginal(from, to);
     }
-    Status deleted = files.DeleteOriginal(from, to);
     if (!deleted.Ok() && FileExists(files, from)) {
         IgnoreFailure(files.ClearAttributes(to));
         IgnoreFailure(files.Delete(to));
@@ -138,9 +139,6 @@ void MoveStrays(FileSystem& files, const std::string& gameFolder,
 }
 
 void CreateScreenshotFolders(FileSystem& files, const std::string& gameFolder) {
-    if (!gameFolder.ends_with('\\')) {
-        return;  // the bare drive of a game that is not installed
-    }
     for (const FolderEntry& entry : EntriesOf(files, gameFolder)) {
         const std::string name = LowerCase(entry.name);
         if (entry.info.isFolder && name != "." && name != ".." && name != "docs" &&

@@ -17,7 +17,7 @@ Status CreateAutoexec(FileSystem& files, const std::string& path, const std::str
 void MoveStrays(FileSystem& files, const std::string& gameFolder, const std::string& playersFolder);
 
 // Gives every folder of Quake 2 that may be a mod the folder for screenshots without which the game
-// crashes.
+// crashes. The game's folder ends in a backslash.
 void CreateScreenshotFolders(FileSystem& files, const std::string& gameFolder);
 
 }  // namespace zentar

@@ -24,6 +24,9 @@ struct HelpSection {
 
 inline constexpr std::size_t kHelpSections = 7;
 
+// What stands above the list.
+inline constexpr const char* kHelpPrompt = "Please select a help topic from the list:";
+
 // What a new user reads first.
 inline constexpr std::string_view kAuthorDetails = "Author Details And Program Legal Information";
 

@@ -7,11 +7,6 @@
 #include "help/help_topics.h"
 
 namespace zentar {
-namespace {
-
-constexpr const char* kPrompt = "Please select a help topic from the list:";
-
-}  // namespace
 
 HelpViewer::HelpViewer(const ProgramState& state, const HelpControls& controls)
     : state_(state), controls_(controls) {
@@ -97,7 +92,7 @@ void HelpViewer::cmdBack_Click() {
     controls_.lstQuestions.SetFocus();
     controls_.txtAnswer.SetVisible(false);
     controls_.cmdBack.SetEnabled(false);
-    controls_.labHeader.SetText(kPrompt);
+    controls_.labHeader.SetText(kHelpPrompt);
 }
 
 }  // namespace zentar

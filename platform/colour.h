@@ -10,6 +10,7 @@ namespace zentar {
 using ColourRef = std::uint32_t;
 
 inline constexpr ColourRef kBlack = 0;
+inline constexpr ColourRef kWhite = 0xFFFFFF;
 
 // Colours that the user chose for the whole system; they may change while the program runs.
 enum class SystemColour : std::uint8_t { Window, WindowText, ButtonFace };

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/bitmap.h"
@@ -36,6 +37,12 @@ struct ControlEvents {
     // Gives true when it used the key up; the control then does not see it.
     std::function<bool(Key)> keyDown;
 };
+
+inline ControlEvents OnClick(std::function<void()> procedure) {
+    ControlEvents events;
+    events.click = std::move(procedure);
+    return events;
+}
 
 class Control {
   public:

@@ -35,8 +35,6 @@ constexpr std::array<std::string_view, 12> kPlayer = {
 // The longest of them, with room to spare.
 constexpr std::size_t kLongestBeginning = 40;
 
-std::string WebSiteLine() { return "Web Site: " + std::string(kWebSite); }
-
 }  // namespace
 
 bool IsProgressLine(std::string_view line, bool all) {

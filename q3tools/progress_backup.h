@@ -2,6 +2,7 @@
 // their own, and back.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 

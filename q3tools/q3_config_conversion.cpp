@@ -94,10 +94,6 @@ Result<bool> IsConfigConverted(FileSystem& files, const std::string& path) {
 }
 
 Status ConvertConfig(FileSystem& files, const std::string& path) {
-    const Result<bool> converted = IsConfigConverted(files, path);
-    if (!converted.Ok() || converted.Value()) {
-        return converted.Ok() ? Status() : Status(converted.Error());
-    }
     Result<std::unique_ptr<ReadableFile>> file = files.OpenForReading(path);
     if (!file.Ok()) {
         return file.Error();

@@ -1,35 +1,24 @@
 #include "q3tools/q3_config_frames.h"
 
-#include <utility>
-
 #include "core/file_name.h"
-#include "core/file_reading.h"
-#include "core/game_folders.h"
 #include "core/hourglass.h"
+#include "core/notepad.h"
 #include "core/questions.h"
 #include "platform/file_system.h"
-#include "platform/shell.h"
 #include "platform/window_services.h"
 #include "q3tools/config_messages.h"
 #include "q3tools/progress_backup.h"
-#include "q3tools/q3_config.h"
 #include "q3tools/q3_config_conversion.h"
+#include "q3tools/q3_config_search.h"
 
 namespace zentar {
 
 Q3ConfigFrames::Q3ConfigFrames(ProgramState& state, const Platform& platform,
                                const Q3ConfigControls& controls)
     : state_(state), platform_(platform), controls_(controls) {
-    const auto bind = [this](Button& button, void (Q3ConfigFrames::*procedure)()) {
-        ControlEvents events;
-        events.click = [this, procedure] {
-            guard_.Run([this, procedure] { (this->*procedure)(); });
-        };
-        button.SetEvents(std::move(events));
-    };
-    bind(controls_.cmdQ3Backup, &Q3ConfigFrames::cmdQ3Backup_Click);
-    bind(controls_.cmdQ3Restore, &Q3ConfigFrames::cmdQ3Restore_Click);
-    bind(controls_.cmdQ3ConfigEdit, &Q3ConfigFrames::cmdQ3ConfigEdit_Click);
+    controls_.cmdQ3Backup.SetEvents(GuardedClick(guard_, [this] { cmdQ3Backup_Click(); }));
+    controls_.cmdQ3Restore.SetEvents(GuardedClick(guard_, [this] { cmdQ3Restore_Click(); }));
+    controls_.cmdQ3ConfigEdit.SetEvents(GuardedClick(guard_, [this] { cmdQ3ConfigEdit_Click(); }));
 }
 
 Status Q3ConfigFrames::AtWork(const std::function<Status()>& work) {
@@ -45,22 +34,8 @@ void Q3ConfigFrames::Report(const Status& done, const Message& failure) {
     }
 }
 
-std::optional<std::string> Q3ConfigFrames::ConfigFor(std::string_view purpose) {
-    CheckGameFolder(state_, platform_, GameId(kQuake3));
-    if (!state_.GameFolderOK) {
-        return std::nullopt;
-    }
-    std::string path = Q3ConfigPath(state_);
-    RecoverConfig(platform_.files, path);
-    if (!FileExists(platform_.files, path)) {
-        platform_.windows.Ask(messages::NoQ3Config(purpose));
-        return std::nullopt;
-    }
-    return path;
-}
-
 void Q3ConfigFrames::cmdQ3Backup_Click() {
-    const std::optional<std::string> config = ConfigFor("backup from");
+    const std::optional<std::string> config = FindQ3Config(state_, platform_, "backup from");
     if (!config) {
         return;
     }
@@ -96,7 +71,7 @@ std::optional<std::string> Q3ConfigFrames::ChooseBackup(const std::string& confi
 }
 
 void Q3ConfigFrames::cmdQ3Restore_Click() {
-    const std::optional<std::string> config = ConfigFor("restore to");
+    const std::optional<std::string> config = FindQ3Config(state_, platform_, "restore to");
     if (!config || !Confirmed(state_, platform_.windows, messages::ReallyRestoreProgress()) ||
         !MayChangeFile(platform_, *config, messages::RestoreToReadOnlyConfig())) {
         return;
@@ -116,7 +91,7 @@ void Q3ConfigFrames::cmdQ3Restore_Click() {
 }
 
 void Q3ConfigFrames::cmdQ3ConfigEdit_Click() {
-    const std::optional<std::string> config = ConfigFor("edit");
+    const std::optional<std::string> config = FindQ3Config(state_, platform_, "edit");
     if (!config) {
         return;
     }
@@ -127,11 +102,7 @@ void Q3ConfigFrames::cmdQ3ConfigEdit_Click() {
         platform_.windows.Ask(messages::ConfigNotConverted());
         return;
     }
-    // Notepad takes the rest of its command line for the path, blanks and all.
-    const Status started = platform_.shell.StartProgram({.folder = state_.WindowsFolder,
-                                                         .executable = "notepad.exe",
-                                                         .arguments = " " + *config,
-                                                         .window = StartWindow::Maximised});
+    const Status started = OpenInNotepad(state_, platform_.shell, *config);
     platform_.windows.Sound(started.Ok() ? Beep::Information : Beep::Exclamation);
 }
 

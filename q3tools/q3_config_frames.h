@@ -33,8 +33,6 @@ class Q3ConfigFrames {
     void cmdQ3ConfigEdit_Click();
 
   private:
-    // The path of the configuration, for a purpose that the user is told of when it is not there.
-    std::optional<std::string> ConfigFor(std::string_view purpose);
     std::optional<std::string> ChooseBackup(const std::string& config);
     // Under the hourglass.
     Status AtWork(const std::function<Status()>& work);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "core/settings.h"
 #include "platform/controls.h"

@@ -55,7 +55,8 @@ Result<std::vector<ColouredRun>> LoadColouredText(FileSystem& files, const std::
         return std::move(*runs);
     }
     const std::string_view text = bytes.Value();
-    return std::vector<ColouredRun>{{GameTextOnOneLine(text.substr(0, kMostRtfCharacters)), 0}};
+    return std::vector<ColouredRun>{
+        {GameTextOnOneLine(text.substr(0, kMostRtfCharacters)), kBlack}};
 }
 
 Status SaveColouredText(FileSystem& files, const std::string& path,

@@ -1,20 +1,18 @@
 #include "q3tools/q3_text_tab.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
 #include "core/file_name.h"
-#include "core/file_reading.h"
-#include "core/game_folders.h"
 #include "core/game_text.h"
 #include "core/questions.h"
 #include "platform/file_system.h"
 #include "platform/window_services.h"
 #include "q3tools/colour_codes.h"
-#include "q3tools/config_messages.h"
 #include "q3tools/q3_config.h"
-#include "q3tools/q3_config_conversion.h"
+#include "q3tools/q3_config_search.h"
 #include "q3tools/q3_text_files.h"
 #include "q3tools/q3_text_messages.h"
 
@@ -66,17 +64,12 @@ void Q3TextTab::BindTypes() {
 }
 
 void Q3TextTab::BindCommands() {
-    const auto bind = [this](Button& button, void (Q3TextTab::*procedure)()) {
-        ControlEvents events;
-        events.click = [this, procedure] {
-            guard_.Run([this, procedure] { (this->*procedure)(); });
-        };
-        button.SetEvents(std::move(events));
-    };
-    bind(controls_.cmdQ3TextSave, &Q3TextTab::cmdQ3TextSave_Click);
-    bind(controls_.cmdQ3TextOpen, &Q3TextTab::cmdQ3TextOpen_Click);
-    bind(controls_.cmdQ3TextClipboard, &Q3TextTab::cmdQ3TextClipboard_Click);
-    bind(controls_.cmdQ3TextQ3Config, &Q3TextTab::cmdQ3TextQ3Config_Click);
+    controls_.cmdQ3TextSave.SetEvents(GuardedClick(guard_, [this] { cmdQ3TextSave_Click(); }));
+    controls_.cmdQ3TextOpen.SetEvents(GuardedClick(guard_, [this] { cmdQ3TextOpen_Click(); }));
+    controls_.cmdQ3TextClipboard.SetEvents(
+        GuardedClick(guard_, [this] { cmdQ3TextClipboard_Click(); }));
+    controls_.cmdQ3TextQ3Config.SetEvents(
+        GuardedClick(guard_, [this] { cmdQ3TextQ3Config_Click(); }));
 }
 
 void Q3TextTab::LoadCurrent() {
@@ -179,24 +172,15 @@ void Q3TextTab::cmdQ3TextClipboard_Click() {
 }
 
 void Q3TextTab::cmdQ3TextQ3Config_Click() {
-    CheckGameFolder(state_, platform_, GameId(kQuake3));
-    if (!state_.GameFolderOK) {
-        return;
-    }
-    const std::string path = Q3ConfigPath(state_);
-    RecoverConfig(platform_.files, path);
-    if (!FileExists(platform_.files, path)) {
-        platform_.windows.Ask(messages::NoQ3Config("add to"));
-        return;
-    }
-    if (!Confirmed(state_, platform_.windows, messages::ReallyAddCode()) ||
-        !MayChangeFile(platform_, path, messages::AddToReadOnlyConfig())) {
+    const std::optional<std::string> path = FindQ3Config(state_, platform_, "add to");
+    if (!path || !Confirmed(state_, platform_.windows, messages::ReallyAddCode()) ||
+        !MayChangeFile(platform_, *path, messages::AddToReadOnlyConfig())) {
         return;
     }
     // Where that is refused, so is the line, and its message says why.
-    IgnoreFailure(platform_.files.ClearAttributes(path));
+    IgnoreFailure(platform_.files.ClearAttributes(*path));
     const std::string line = Utf8ToGameText(controls_.txtQ3TextCode.Text()) + "\r\n";
-    if (!AppendToConfig(platform_.files, path, line).Ok()) {
+    if (!AppendToConfig(platform_.files, *path, line).Ok()) {
         platform_.windows.Ask(messages::CodeNotAdded());
         return;
     }

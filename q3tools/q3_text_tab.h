@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "core/command_guard.h"
 #include "core/program_state.h"

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 constexpr std::uintmax_t kQuake117Length = 852'025;
 constexpr std::uintmax_t kQuake127hLength = 880'640;
 
-// Demos of the sizes of short matches, each of another size.
+// Demos of the sizes of short matches: the longer the name, the larger.
 constexpr std::size_t kShortestDemo = 20'000;
 constexpr std::size_t kBytesPerLetter = 1'311;
 
@@ -191,7 +191,7 @@ void WriteDemo(const fs::path& games, const SampleDemo& demo) {
     contents.map = demo.map;
     contents.levelName = demo.levelName;
     contents.mod = demo.mod;
-    contents.size = kShortestDemo + path.filename().native().size() * kBytesPerLetter;
+    contents.size = kShortestDemo + path.filename().u8string().size() * kBytesPerLetter;
     if (!demo.chat.empty()) {
         contents.chat.emplace_back(demo.chat);
     }

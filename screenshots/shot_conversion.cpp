@@ -1,5 +1,6 @@
 #include "screenshots/shot_conversion.h"
 
+#include <memory>
 #include <utility>
 
 #include "core/file_copy.h"
@@ -19,16 +20,37 @@ namespace {
 
 constexpr int kJpgQuality = 80;
 
-// Holds nothing that anybody needs after a power cut.
-bool WriteScratch(FileSystem& files, const std::string& path, const std::string& bytes) {
-    const auto file = files.OpenForWriting(path, WriteMode::Truncate);
-    return file.Ok() && file.Value()->Write(bytes).Ok() && file.Value()->Close().Ok();
-}
-
 // Nothing but an unfinished JPG ever stands under this name.
 std::string Unfinished(const std::string& jpg) {
     return std::string(FolderOf(jpg)) + "zentar-jpg.tmp";
 }
+
+// A file that is held open, so that no other Zentar does the same meanwhile. Nobody holds one that
+// a crash has left.
+class Turn {
+  public:
+    Turn(FileSystem& files, std::string path)
+        : files_(files),
+          path_(std::move(path)),
+          file_(files.OpenForWriting(path_, WriteMode::Truncate)) {}
+    ~Turn() {
+        if (file_.Ok()) {
+            file_.Value().reset();
+            // One that stays does no harm.
+            IgnoreFailure(files_.Delete(path_));
+        }
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+    bool IsOurs() const { return file_.Ok(); }
+    bool Write(const std::string& bytes) { return IsOurs() && file_.Value()->Write(bytes).Ok(); }
+
+  private:
+    FileSystem& files_;
+    std::string path_;
+    Result<std::unique_ptr<WritableFile>> file_;
+};
 
 }  // namespace
 
@@ -58,7 +80,9 @@ void ShotConversion::mnuScreenshotMakeJPEGOnly_Click() {
     bool made = false;
     {
         const Hourglass hourglass(platform_.windows);
-        made = MakeJpg(shot, actual.picture, jpg) && PutInPlace(jpg, overwrites, kills);
+        const Turn turn(platform_.files, Unfinished(jpg) + ".lock");
+        made = turn.IsOurs() && MakeJpg(shot, actual.picture, jpg) &&
+               PutInPlace(jpg, overwrites, kills);
     }
     if (!made) {
         platform_.windows.Ask(messages::JpgNotMade(game));
@@ -111,14 +135,16 @@ bool ShotConversion::PutInPlace(const std::string& jpg, bool overwrites, bool ki
 }
 
 // The library encodes what it loaded last, so the picture goes by way of a file. A program folder
-// that takes none leaves the shot's own file.
+// that takes none, or one that another Zentar uses for another folder's shot, leaves the shot's own
+// file.
 void ShotConversion::MakeCurrentImage(const Shot& shot, const Bitmap& picture) {
     const std::string scratch = state_.ProgramFolder + "tmp.bmp";
     const Result<std::string> bytes = platform_.pictures.EncodeBmp(picture);
-    const bool written = bytes.Ok() && WriteScratch(platform_.files, scratch, bytes.Value());
-    const bool loaded = written && platform_.images.Load(scratch) != nullptr;
-    // It is not there when the program folder is protected.
-    IgnoreFailure(platform_.files.Delete(scratch));
+    bool loaded = false;
+    if (bytes.Ok()) {
+        Turn turn(platform_.files, scratch);
+        loaded = turn.Write(bytes.Value()) && platform_.images.Load(scratch) != nullptr;
+    }
     if (!loaded) {
         // One that cannot be loaded either makes the encoding fail, which is told.
         platform_.images.Load(shot.Path);

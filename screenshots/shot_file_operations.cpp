@@ -4,9 +4,11 @@
 #include <optional>
 #include <vector>
 
+#include "core/file_deletion.h"
 #include "core/file_name.h"
 #include "core/hourglass.h"
 #include "core/messages.h"
+#include "core/neighbour.h"
 #include "core/questions.h"
 #include "core/text.h"
 #include "platform/file_system.h"
@@ -19,14 +21,12 @@ void ShotFileOperations::mnuScreenshotDelete_Click() {
     if (shot.Name.empty() || !Confirmed(state_, platform_.windows, messages::ReallyDeleteShot())) {
         return;
     }
-    const std::string neighbour = NeighbourOf(shot.Name);
+    const std::string neighbour = NeighbourOf(shot.Name, list_.ListedShots());
     if (!MayChangeFile(platform_, shot.Path, messages::DeleteReadOnlyShot())) {
         return;
     }
-    // Hidden ones go, too. What refuses that refuses the deletion.
-    IgnoreFailure(platform_.files.ClearAttributes(shot.Path));
     // A shot that stays, since a program holds it, is seen in the list.
-    const Status deleted = platform_.files.Delete(shot.Path);
+    const Status deleted = ForceDelete(platform_.files, shot.Path);
     if (deleted.Ok() || deleted.Error() == FileError::NotFound) {
         DeletePreviewOf(shot.Path);
     }
@@ -35,16 +35,6 @@ void ShotFileOperations::mnuScreenshotDelete_Click() {
     } else {
         list_.RefreshScreenshotList();
     }
-}
-
-// The entry after it, or before it if it is the last one; empty when it is the only one.
-std::string ShotFileOperations::NeighbourOf(const std::string& shot) const {
-    const std::vector<std::string> shots = list_.ListedShots();
-    const auto at = std::find(shots.begin(), shots.end(), shot);
-    if (at == shots.end() || shots.size() == 1) {
-        return {};
-    }
-    return at + 1 == shots.end() ? *(at - 1) : *(at + 1);
 }
 
 // One that cannot go is of no harm: it shows what the shot was.
@@ -62,9 +52,8 @@ void ShotFileOperations::mnuScreenshotDeletePreview_Click() {
     if (!MayChangeFile(platform_, preview, messages::DeleteReadOnlyPreview())) {
         return;
     }
-    IgnoreFailure(platform_.files.ClearAttributes(preview));
     // One that stays is seen by its marker.
-    IgnoreFailure(platform_.files.Delete(preview));
+    IgnoreFailure(ForceDelete(platform_.files, preview));
     list_.RefreshAndReselect(shot.Name);
 }
 
@@ -91,9 +80,8 @@ void ShotFileOperations::DeleteAll(const Sweep& sweep) {
         const Hourglass hourglass(platform_.windows);
         for (const FolderEntry& entry : found) {
             const std::string path = folder + entry.name;
-            IgnoreFailure(platform_.files.ClearAttributes(path));
             // What stays, since a program holds it, is seen in the list.
-            if (platform_.files.Delete(path).Ok() && sweep.afterwards) {
+            if (ForceDelete(platform_.files, path).Ok() && sweep.afterwards) {
                 sweep.afterwards(path);
             }
         }
@@ -151,6 +139,7 @@ void ShotFileOperations::mnuScreenshotRename_Click() {
         return;
     }
     const std::string base(BaseNameOf(shot.Name));
+    const std::vector<std::string> listed = list_.ListedShots();
     const std::string name =
         platform_.windows.AskText(messages::EnterNewShotName(base)).value_or("");
     if (name.empty() || name == base) {
@@ -159,11 +148,12 @@ void ShotFileOperations::mnuScreenshotRename_Click() {
     if (name.size() > kLongestFileName) {
         platform_.windows.Ask(messages::NotRenamed("screenshot", FileError::BadName));
     } else if (ValidateFileName(platform_.windows, name)) {
-        Rename(shot, name);
+        Rename(shot, name, listed);
     }
 }
 
-void ShotFileOperations::Rename(const Shot& shot, const std::string& name) {
+void ShotFileOperations::Rename(const Shot& shot, const std::string& name,
+                                const std::vector<std::string>& listed) {
     const std::string folder(FolderOf(shot.Path));
     const std::string renamed = name + std::string(shot.Name.substr(BaseNameOf(shot.Name).size()));
     const Status done = platform_.files.Rename(shot.Path, folder + renamed);
@@ -174,14 +164,31 @@ void ShotFileOperations::Rename(const Shot& shot, const std::string& name) {
         }
         return;
     }
-    const std::string preview = PreviewNameOf(shot.Path);
-    const std::string newPreview = folder + PreviewNameOf(renamed);
-    // One of the new name showed a shot that has gone, or that shares its preview from now on. A
-    // preview that cannot be renamed is made anew when the shot is viewed.
-    if (!platform_.files.Rename(preview, newPreview).Ok() && platform_.files.Info(preview).Ok()) {
-        IgnoreFailure(platform_.files.Replace(preview, newPreview));
-    }
+    RenamePreview(PreviewNameOf(shot.Path), folder + PreviewNameOf(renamed), listed);
     list_.RefreshAndReselect(renamed);
+}
+
+// One of the new name showed a shot that has gone, or that shares its preview from now on. A
+// preview that cannot be renamed is made anew when the shot is viewed.
+void ShotFileOperations::RenamePreview(const std::string& from, const std::string& to,
+                                       const std::vector<std::string>& listed) {
+    FileSystem& files = platform_.files;
+    if (files.Rename(from, to).Ok()) {
+        return;
+    }
+    const Result<FileInfo> info = files.Info(from);
+    if (info.Ok()) {
+        IgnoreFailure(files.Replace(from, to));
+        return;
+    }
+    const std::string name = LowerCase(FileNameOf(to));
+    const auto isOf = [&name](const std::string& shot) {
+        return LowerCase(PreviewNameOf(shot)) == name;
+    };
+    // Without one of its own the shot must not be shown by that of one that has gone.
+    if (info.Error() == FileError::NotFound && std::none_of(listed.begin(), listed.end(), isOf)) {
+        IgnoreFailure(files.Delete(to));
+    }
 }
 
 }  // namespace zentar

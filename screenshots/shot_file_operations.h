@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/program_state.h"
 #include "platform/platform.h"
@@ -27,7 +28,6 @@ class ShotFileOperations {
     void mnuScreenshotRename_Click();
 
   private:
-    std::string NeighbourOf(const std::string& shot) const;
     // Deleting every file of a kind.
     struct Sweep {
         Message question;
@@ -38,7 +38,10 @@ class ShotFileOperations {
     void DeleteAll(const Sweep& sweep);
     void DeletePreviewOf(const std::string& shotPath);
     void DeletePreviewOfJpg(const std::string& jpgPath);
-    void Rename(const Shot& shot, const std::string& name);
+    // `listed` are the shots that were listed when the command began.
+    void Rename(const Shot& shot, const std::string& name, const std::vector<std::string>& listed);
+    void RenamePreview(const std::string& from, const std::string& to,
+                       const std::vector<std::string>& listed);
 
     ProgramState& state_;
     Platform platform_;

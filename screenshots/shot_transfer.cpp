@@ -5,7 +5,6 @@
 #include "core/messages.h"
 #include "core/questions.h"
 #include "core/remote_folder.h"
-#include "platform/locale.h"
 #include "screenshots/shot_messages.h"
 #include "screenshots/shot_transfer_messages.h"
 
@@ -36,7 +35,9 @@ void ShotTransfer::TransferShotToRemote(TransferVerb verb) {
     }
     // On another drive the move is a copy, which leaves the original.
     const bool deletes = file.leavesOriginal && IsOnOneDrive(file);
-    const bool done = !deletes || DeleteOriginal(file);
+    const bool done =
+        !deletes || DeleteTransferredOrTell(platform_, file, messages::DeleteReadOnlyShot(),
+                                            messages::MovedShotNotDeleted(game));
     if (verb == TransferVerb::Move) {
         list_.RefreshScreenshotList();
     }
@@ -53,7 +54,7 @@ bool ShotTransfer::MayBegin(TransferVerb verb, FileTransfer& file) {
         list_.RefreshScreenshotList();
         return false;
     }
-    if (!HasRoom(verb, file, source.Value().length)) {
+    if (!HasRoom(platform_, verb, file, source.Value().length, "shot")) {
         return false;
     }
     if (verb == TransferVerb::Move &&
@@ -66,38 +67,11 @@ bool ShotTransfer::MayBegin(TransferVerb verb, FileTransfer& file) {
             MayChangeFile(platform_, file.target, messages::OverwriteReadOnlyShot()));
 }
 
-bool ShotTransfer::HasRoom(TransferVerb verb, const FileTransfer& file, std::uint64_t length) {
-    if (verb == TransferVerb::Move && IsOnOneDrive(file)) {
-        return true;
-    }
-    const auto space = SpaceThatIsTooSmall(platform_.files, file, length);
-    if (space) {
-        platform_.windows.Ask(
-            messages::NoSpaceFor(verb, {.thing = "shot",
-                                        .owner = "Shot's",
-                                        .drive = file.target.substr(0, 1),
-                                        .length = length,
-                                        .space = *space,
-                                        .separator = platform_.locale.ThousandsSeparator()}));
-    }
-    return !space;
-}
-
 CopyOutcome ShotTransfer::Carry(TransferVerb verb, FileTransfer& file) {
     const Hourglass hourglass(platform_.windows);
     platform_.windows.PumpPending();
     return verb == TransferVerb::Move ? MoveToTarget(platform_.files, file)
                                       : CopyToTarget(platform_.files, file);
-}
-
-// True when the original is gone, or where it was to go.
-bool ShotTransfer::DeleteOriginal(const FileTransfer& file) {
-    const OriginalOutcome outcome =
-        DeleteTransferred(platform_, file, messages::DeleteReadOnlyShot());
-    if (outcome == OriginalOutcome::NotDeletable) {
-        platform_.windows.Ask(messages::MovedShotNotDeleted(state_.settings.Game));
-    }
-    return outcome == OriginalOutcome::Gone;
 }
 
 }  // namespace zentar

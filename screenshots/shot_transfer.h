@@ -4,8 +4,6 @@
 // case.
 #pragma once
 
-#include <cstdint>
-
 #include "core/file_transfer.h"
 #include "core/program_state.h"
 #include "core/transfer_messages.h"
@@ -23,9 +21,7 @@ class ShotTransfer {
 
   private:
     bool MayBegin(TransferVerb verb, FileTransfer& file);
-    bool HasRoom(TransferVerb verb, const FileTransfer& file, std::uint64_t length);
     CopyOutcome Carry(TransferVerb verb, FileTransfer& file);
-    bool DeleteOriginal(const FileTransfer& file);
 
     ProgramState& state_;
     Platform platform_;

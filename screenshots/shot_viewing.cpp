@@ -1,7 +1,6 @@
 #include "screenshots/shot_viewing.h"
 
 #include "core/atomic_file.h"
-#include "core/file_name.h"
 #include "core/text.h"
 #include "platform/file_system.h"
 #include "platform/image_library.h"
@@ -15,10 +14,6 @@ namespace zentar {
 namespace {
 
 constexpr Size kPreviewSize = {320, 240};
-
-std::string PreviewPathOf(const Shot& shot) {
-    return std::string(FolderOf(shot.Path)) + PreviewNameOf(shot.Name);
-}
 
 std::string DimsText(Size size) {
     return "Dims:\t" + std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels";
@@ -77,7 +72,7 @@ void ShotViewing::ShowReal(Shot& shot) {
 void ShotViewing::ShowPreview(Shot& shot) {
     loading_ = false;
     controls_.optModePreview.SetCaptionColour(CaptionColour::Red);
-    if (const BitmapPtr preview = ReadPicture(platform_, PreviewPathOf(shot))) {
+    if (const BitmapPtr preview = ReadPicture(platform_, PreviewNameOf(shot.Path))) {
         controls_.imgShotView.SetImage(preview);
     }
     EnablePictureCommands(false, false);
@@ -115,7 +110,7 @@ void ShotViewing::MakePreview(const Shot& shot) {
     }
     const Result<std::string> bytes = platform_.pictures.EncodeBmp(*picShotPreview);
     if (bytes.Ok()) {
-        const std::string path = PreviewPathOf(shot);
+        const std::string path = PreviewNameOf(shot.Path);
         IgnoreFailure(platform_.files.ClearAttributes(path));
         IgnoreFailure(
             ReplaceFileContents(platform_.files, path, bytes.Value(), Durability::Cached));

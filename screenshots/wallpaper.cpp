@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/atomic_file.h"
+#include "core/file_deletion.h"
 #include "core/hourglass.h"
 #include "core/questions.h"
 #include "core/text.h"
@@ -64,9 +65,7 @@ void Wallpaper::mnuScreenshotDeleteAllWallpaper_Click() {
     std::vector<std::string> refused;
     for (const std::string& name : FindWallpapers(platform_.files, state_.WindowsFolder)) {
         const std::string path = state_.WindowsFolder + name;
-        // What refuses this refuses the deletion.
-        IgnoreFailure(platform_.files.ClearAttributes(path));
-        const Status deleted = platform_.files.Delete(path);
+        const Status deleted = ForceDelete(platform_.files, path);
         if (!deleted.Ok() && deleted.Error() == FileError::AccessDenied) {
             refused.push_back(path);
         }

@@ -6,13 +6,13 @@
 #include "core/game_folders.h"
 #include "core/game_text.h"
 #include "core/hourglass.h"
+#include "core/notepad.h"
 #include "core/program_info.h"
 #include "core/program_life.h"
 #include "core/questions.h"
 #include "platform/file_system.h"
 #include "platform/shell.h"
 #include "platform/window_services.h"
-#include "q3tools/colour_codes.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/transcript_file.h"
 #include "transcripts/transcript_messages.h"
@@ -27,16 +27,10 @@ ChatFrame::ChatFrame(ProgramState& state, const Platform& platform,
 }
 
 void ChatFrame::BindButtons() {
-    const auto bind = [this](Control& control, void (ChatFrame::*procedure)()) {
-        ControlEvents events;
-        events.click = [this, procedure] {
-            guard_.Run([this, procedure] { (this->*procedure)(); });
-        };
-        control.SetEvents(std::move(events));
-    };
-    bind(controls_.cmdScanForNames, &ChatFrame::cmdScanForNames_Click);
-    bind(controls_.cmdClearNames, &ChatFrame::cmdClearNames_Click);
-    bind(controls_.cmdCreateTranscript, &ChatFrame::cmdCreateTranscript_Click);
+    controls_.cmdScanForNames.SetEvents(GuardedClick(guard_, [this] { cmdScanForNames_Click(); }));
+    controls_.cmdClearNames.SetEvents(GuardedClick(guard_, [this] { cmdClearNames_Click(); }));
+    controls_.cmdCreateTranscript.SetEvents(
+        GuardedClick(guard_, [this] { cmdCreateTranscript_Click(); }));
     ControlEvents html;
     html.click = [this] { chkTranscriptHTML_Click(); };
     controls_.chkTranscriptHTML.SetEvents(std::move(html));
@@ -163,7 +157,7 @@ void ChatFrame::txtPlayer_DblClick(std::size_t box) {
     }
     const bool isFree = controls_.txtPlayer[box]->Text().empty();
     const std::optional<ColourRef> chosen = platform_.windows.ChooseColour(
-        isFree ? boxes_.Background().value_or(kQ3White) : boxes_.Speech(box).value_or(kQ3Black));
+        isFree ? boxes_.Background().value_or(kWhite) : boxes_.Speech(box).value_or(kBlack));
     if (!chosen) {
         return;
     }
@@ -180,7 +174,7 @@ void ChatFrame::txtTranscriptMessages_DblClick() {
     if (!controls_.chkTranscriptHTML.Checked()) {
         return;
     }
-    if (const auto chosen = platform_.windows.ChooseColour(boxes_.Messages().value_or(kQ3Black))) {
+    if (const auto chosen = platform_.windows.ChooseColour(boxes_.Messages().value_or(kBlack))) {
         boxes_.SetMessages(*chosen);
         controls_.cmdCreateTranscript.SetFocus();
     }
@@ -271,10 +265,7 @@ Status ChatFrame::Open(const std::string& transcript, bool html) {
     if (html) {
         return platform_.shell.OpenFile(transcript, state_.ProgramFolder);
     }
-    return platform_.shell.StartProgram({.folder = state_.WindowsFolder,
-                                         .executable = "notepad.exe",
-                                         .arguments = " \"" + transcript + "\"",
-                                         .window = StartWindow::Maximised});
+    return OpenInNotepad(state_, platform_.shell, "\"" + transcript + "\"");
 }
 
 }  // namespace zentar

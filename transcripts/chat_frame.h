@@ -2,7 +2,6 @@
 // or log, and making a transcript of what they say.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>

@@ -5,6 +5,7 @@
 // chose are settings; the boxes show them only while transcripts are made as HTML.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>

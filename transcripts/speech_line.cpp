@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 4> kPrefixes = {"\1", "<RED> ", "<BLUE> "
 constexpr std::array<std::string_view, 3> kMessageEnds = {": challenge", ": client_connect",
                                                           ": print"};
 
-// How messages of the consoles begin, in lower case and alphabetical order but for the first.
+// How messages of the consoles begin, in lower case; those with the same first byte stand together.
 constexpr std::array<std::string_view, 83> kMessageBeginnings = {
     "...",
     "** author",

@@ -9,7 +9,7 @@
 
 namespace zentar {
 
-// Whether a file, by its name, is a transcript.
+// Whether a path is that of a transcript: the mark may stand in a folder's name, too.
 bool IsTranscript(std::string_view path);
 
 // "duel.log" -> "duel (transcript).htm"; an extension other than .txt and .log stays.

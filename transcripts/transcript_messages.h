@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "core/game_info.h"
 #include "platform/window_services.h"

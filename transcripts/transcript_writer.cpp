@@ -99,8 +99,8 @@ void TranscriptWriter::Begin() {
 void TranscriptWriter::WriteHead() {
     if (options_.html) {
         Write({"<html>"});
-        Write({"<body bgcolor=\"", ColourToHtmlHex(options_.background.value_or(kQ3White)),
-               "\" text=\"", ColourToHtmlHex(options_.messages.value_or(kQ3Black)), "\">"});
+        Write({"<body bgcolor=\"", ColourToHtmlHex(options_.background.value_or(kWhite)),
+               "\" text=\"", ColourToHtmlHex(options_.messages.value_or(kBlack)), "\">"});
         Write({"<h3>"});
     }
     Write({kVersionLine, " Chat Transcript", br_});

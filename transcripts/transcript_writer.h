@@ -37,6 +37,7 @@ class TranscriptWriter {
     // Takes each line of the transcript, with its end.
     using Sink = std::function<void(std::string_view)>;
 
+    // The options must outlive this.
     TranscriptWriter(const TranscriptOptions& options, Sink sink);
 
     void Begin();

@@ -1,5 +1,6 @@
 #include "ui/demos_tab_table.h"
 
+#include "ui/anchors.h"
 #include "ui/resource.h"
 
 namespace zentar {
@@ -7,9 +8,6 @@ namespace {
 
 constexpr std::uint8_t kTopRight = AnchorTop | AnchorRight;
 constexpr std::uint8_t kRightGrowDown = AnchorTop | AnchorRight | AnchorBottom;
-constexpr std::uint8_t kGrowDown = AnchorTopLeft | AnchorBottom;
-constexpr std::uint8_t kBottomLeft = AnchorBottom | AnchorLeft;
-constexpr std::uint8_t kBottomGrowRight = AnchorBottom | AnchorLeft | AnchorRight;
 
 const ControlRow kRows[] = {
     {.id = IDC_lstDemos,
@@ -89,7 +87,8 @@ const ControlRow kRows[] = {
      .kind = ControlKind::Frame,
      .parent = IDC_fraDemos,
      .rect = {12, 68, 264, 22},
-     .flags = Borderless},
+     .flags = Borderless,
+     .name = "Only list the demos that actually"},
     {.id = IDC_optTextNo,
      .kind = ControlKind::OptionButton,
      .parent = IDC_fraTextContain,

@@ -1,12 +1,10 @@
 #include "ui/first_aid_tab_table.h"
 
+#include "ui/anchors.h"
 #include "ui/resource.h"
 
 namespace zentar {
 namespace {
-
-constexpr std::uint8_t kGrowRight = AnchorTopLeft | AnchorRight;
-constexpr std::uint8_t kBottomLeft = AnchorBottom | AnchorLeft;
 
 const ControlRow kRows[] = {
     {.id = IDC_labFirstAid,

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "ui/anchors.h"
 #include "ui/chat_frame_table.h"
 #include "ui/demos_tab_table.h"
 #include "ui/first_aid_tab_table.h"
@@ -13,8 +14,6 @@
 
 namespace zentar {
 namespace {
-
-constexpr std::uint8_t kGrowDown = AnchorTopLeft | AnchorBottom;
 
 const ControlRow kGameRows[] = {
     {.id = IDC_optGameQuake1,

@@ -1,13 +1,12 @@
 // Form9, the help window: a list of topics, or an answer in its place.
 
+#include "help/help_topics.h"
+#include "ui/anchors.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
 
 namespace zentar {
 namespace {
-
-constexpr std::uint8_t kGrowRight = AnchorTopLeft | AnchorRight;
-constexpr std::uint8_t kBottomLeft = AnchorBottom | AnchorLeft;
 
 // The list and the answer take turns.
 constexpr Rect kListAndAnswer = {8, 44, 289, 266};
@@ -17,7 +16,7 @@ const ControlRow kRows[] = {
      .kind = ControlKind::Label,
      .rect = {8, 8, 289, 32},
      .anchors = kGrowRight,
-     .caption = "Please select a help topic from the list:"},
+     .caption = kHelpPrompt},
     {.id = IDC_lstQuestions,
      .kind = ControlKind::ListBox,
      .rect = kListAndAnswer,

@@ -1,7 +1,6 @@
 #include "ui/layout.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <map>
 
 namespace zentar {

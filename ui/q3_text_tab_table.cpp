@@ -1,15 +1,11 @@
 #include "ui/q3_text_tab_table.h"
 
 #include "q3tools/colour_codes.h"
+#include "ui/anchors.h"
 #include "ui/resource.h"
 
 namespace zentar {
 namespace {
-
-constexpr std::uint8_t kGrowRight = AnchorTopLeft | AnchorRight;
-constexpr std::uint8_t kBottomLeft = AnchorBottom | AnchorLeft;
-constexpr std::uint8_t kBottomRight = AnchorBottom | AnchorRight;
-constexpr std::uint8_t kBottomGrowRight = AnchorBottom | AnchorLeft | AnchorRight;
 
 const ControlRow kRows[] = {
     {.id = IDC_labQ3Name,
@@ -106,7 +102,8 @@ const ControlRow kRows[] = {
      .parent = IDC_pagQ3Text,
      .rect = {10, 234, 576, 62},
      .anchors = kBottomLeft,
-     .flags = Borderless},
+     .flags = Borderless,
+     .name = "This text code is designed to be used as"},
     {.id = IDC_optQ3TextName,
      .kind = ControlKind::OptionButton,
      .parent = IDC_fraQ3Text,

@@ -109,29 +109,9 @@
 #define IDC_txtTranscriptMessages 1706
 #define IDC_chkTranscriptGameplay 1707
 #define IDC_cmdCreateTranscript 1708
+// The boxes of the players: 24 numbers in a row.
 #define IDC_txtPlayer1 1711
 #define IDC_txtPlayer2 1712
-#define IDC_txtPlayer3 1713
-#define IDC_txtPlayer4 1714
-#define IDC_txtPlayer5 1715
-#define IDC_txtPlayer6 1716
-#define IDC_txtPlayer7 1717
-#define IDC_txtPlayer8 1718
-#define IDC_txtPlayer9 1719
-#define IDC_txtPlayer10 1720
-#define IDC_txtPlayer11 1721
-#define IDC_txtPlayer12 1722
-#define IDC_txtPlayer13 1723
-#define IDC_txtPlayer14 1724
-#define IDC_txtPlayer15 1725
-#define IDC_txtPlayer16 1726
-#define IDC_txtPlayer17 1727
-#define IDC_txtPlayer18 1728
-#define IDC_txtPlayer19 1729
-#define IDC_txtPlayer20 1730
-#define IDC_txtPlayer21 1731
-#define IDC_txtPlayer22 1732
-#define IDC_txtPlayer23 1733
 #define IDC_txtPlayer24 1734
 
 // Q3 Text tab

@@ -1,12 +1,10 @@
 #include "ui/shots_tab_table.h"
 
+#include "ui/anchors.h"
 #include "ui/resource.h"
 
 namespace zentar {
 namespace {
-
-constexpr std::uint8_t kGrowDown = AnchorTopLeft | AnchorBottom;
-constexpr std::uint8_t kBottomLeft = AnchorBottom | AnchorLeft;
 
 const ControlRow kRows[] = {
     {.id = IDC_lstScreenshots,
@@ -36,8 +34,9 @@ const ControlRow kRows[] = {
      .kind = ControlKind::Frame,
      .parent = IDC_pagShots,
      .rect = {326, 430, 260, 24},
-     .anchors = AnchorBottom | AnchorRight,
-     .flags = Borderless},
+     .anchors = kBottomRight,
+     .flags = Borderless,
+     .name = "View mode"},
     {.id = IDC_labPreviewMode,
      .kind = ControlKind::Label,
      .parent = IDC_fraPreviewMode,

@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <string_view>
+#include <string>
 #include <utility>
 
+#include "platform/win32/fonts.h"
+#include "platform/win32/units.h"
 #include "platform/win32/win32_form.h"
+#include "platform/win32/win32_text.h"
 
 namespace zentar {
 namespace {
@@ -18,21 +21,26 @@ constexpr int kWidth = 448;
 constexpr int kMargin = 14;
 constexpr int kInside = kWidth - 2 * kMargin;
 constexpr int kLineHeight = 16;
-constexpr int kLettersALine = 40;  // wide ones
+// The font's widths do not grow in step with the resolution, and lines break elsewhere.
+constexpr int kSpareWidth = 20;
 
-// Room for the prompt, whose lines go on in the next one where they are too long.
-int PromptHeight(std::string_view prompt) {
-    int lines = 0;
-    while (!prompt.empty()) {
-        const std::size_t end = std::min(prompt.find("\r\n"), prompt.size());
-        lines += 1 + static_cast<int>(end) / kLettersALine;
-        prompt.remove_prefix(std::min(end + 2, prompt.size()));
-    }
-    return lines * kLineHeight;
+// How many lines the label makes of the prompt.
+int LinesOf(const std::string& prompt) {
+    const auto dpi = static_cast<int>(GetDpiForSystem());
+    const Fonts fonts(dpi);
+    const WindowContext screen(nullptr);
+    const HGDIOBJ before = SelectObject(screen.Get(), fonts.Text());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(screen.Get(), &metrics);
+    RECT room{0, 0, PixelsOfUnits(kInside - kSpareWidth, dpi), 0};
+    DrawTextW(screen.Get(), Widen(prompt).c_str(), -1, &room,
+              DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL | DT_NOPREFIX | DT_EXPANDTABS);
+    SelectObject(screen.Get(), before);
+    return static_cast<int>(room.bottom / std::max(metrics.tmHeight, LONG{1}));
 }
 
 std::array<ControlRow, 4> RowsOf(const TextQuestion& question) {
-    const int prompt = PromptHeight(question.prompt);
+    const int prompt = LinesOf(question.prompt) * kLineHeight;
     const int answer = kMargin + prompt + 6;
     const int buttons = answer + 31;
     return {{{.id = kPrompt,
@@ -54,12 +62,6 @@ std::array<ControlRow, 4> RowsOf(const TextQuestion& question) {
               .kind = ControlKind::Button,
               .rect = {346, buttons, 88, 25},
               .caption = "Cancel"}}};
-}
-
-ControlEvents OnClick(std::function<void()> click) {
-    ControlEvents events;
-    events.click = std::move(click);
-    return events;
 }
 
 }  // namespace

@@ -57,15 +57,21 @@ std::string ShowState() {
     return (info.dwFlags & STARTF_USESHOWWINDOW) != 0 ? std::to_string(info.wShowWindow) : "none";
 }
 
-void AppendToLog(const OwnPath& own) {
+// Games may start at the same time and write one behind the other. False when the log cannot be
+// opened.
+bool AppendToLog(const OwnPath& own) {
     const std::string block =
         Utf8(GetCommandLineW()) + "\r\n" + WorkingFolder() + "\r\n" + ShowState() + "\r\n\r\n";
-    const HANDLE log =
-        CreateFileW((own.folder + L"standin.log").c_str(), FILE_APPEND_DATA, FILE_SHARE_READ,
-                    nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE log = CreateFileW((own.folder + L"standin.log").c_str(), FILE_APPEND_DATA,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (log == INVALID_HANDLE_VALUE) {
+        return false;
+    }
     DWORD written = 0;
     WriteFile(log, block.data(), static_cast<DWORD>(block.size()), &written, nullptr);
     CloseHandle(log);
+    return true;
 }
 
 int SecondsToShow(const OwnPath& own) {
@@ -125,7 +131,9 @@ void ShowGameWindow(HINSTANCE instance, const wchar_t* title, int seconds) {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
                     int /*show*/) {
     const OwnPath own = FindOwnPath();
-    AppendToLog(own);
+    if (!AppendToLog(own)) {
+        return 1;
+    }
     const int seconds = SecondsToShow(own);
     if (seconds > 0) {
         ShowGameWindow(instance, GameTitle(own), seconds);

@@ -28,8 +28,9 @@ class MemoryControlsWorld : public ControlsWorld {
     }
 
     void SettleUntil(Form& form, int timer, const std::function<bool()>& condition) override {
-        while (!condition())
+        for (int round = 0; round < 100 && !condition(); ++round)
             InMemory(form).FireTimer(timer);
+        EXPECT_TRUE(condition());
     }
 
     void Click(Form& form, int id) override {

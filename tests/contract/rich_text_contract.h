@@ -7,7 +7,6 @@ namespace zentar {
 
 inline constexpr ColourRef kRed = 0x0000FF;
 inline constexpr ColourRef kGreen = 0x00FF00;
-inline constexpr ColourRef kWhite = 0xFFFFFF;
 inline constexpr ColourRef kOrange = 0x006CD8;
 
 using Runs = std::vector<ColouredRun>;

@@ -41,9 +41,8 @@ Result<std::unique_ptr<WritableFile>> FaultyFileSystem::OpenForWriting(const std
         return begun.Error();
     const auto written = std::make_shared<Written>();
     written->path = path;
-    const bool lossy = unflushed_ != Unflushed::Kept;
-    if (lossy && mode == WriteMode::Append)
-        written->flushed = WholeFile(path);
+    if (mode == WriteMode::Append)
+        *written = Before(path);
     Result<std::unique_ptr<WritableFile>> inner = inner_.OpenForWriting(path, mode);
     if (!inner.Ok())
         return inner.Error();
@@ -85,19 +84,32 @@ Status FaultyFileSystem::Overwrite(const std::string& path, std::uint64_t offset
 }
 
 Status FaultyFileSystem::Copy(const std::string& from, const std::string& to, bool overwrite) {
+    const bool wasKilled = killed_;
     const Status begun = Begin("Copy " + from + " -> " + to);
-    if (begun.Ok())
-        return inner_.Copy(from, to, overwrite);
-    if (!killed_ && begun.Error() == FileError::NoSpace)
-        CopyHalf(from, to);
+    if (begun.Ok()) {
+        const Status done = inner_.Copy(from, to, overwrite);
+        if (done.Ok())
+            Copied(to);
+        return done;
+    }
+    if (killed_ ? !wasKilled : begun.Error() == FileError::NoSpace)
+        CopyHalf(from, to, overwrite);
     return begun;
 }
 
-void FaultyFileSystem::CopyHalf(const std::string& from, const std::string& to) {
+void FaultyFileSystem::CopyHalf(const std::string& from, const std::string& to, bool overwrite) {
     const std::string bytes = WholeFile(from);
-    const auto file = inner_.OpenForWriting(to, WriteMode::CreateNew);
-    if (file.Ok())
+    const auto file =
+        inner_.OpenForWriting(to, overwrite ? WriteMode::Truncate : WriteMode::CreateNew);
+    if (file.Ok() && !(killed_ && unflushed_ == Unflushed::Lost))
         IgnoreFailure(file.Value()->Write(bytes.substr(0, bytes.size() / 2)));
+}
+
+// Windows flushes nothing of a copy.
+void FaultyFileSystem::Copied(const std::string& to) {
+    Forget(to);
+    if (unflushed_ != Unflushed::Kept)
+        written_.push_back(std::make_shared<Written>(Written{to, "", WholeFile(to)}));
 }
 
 Result<bool> FaultyFileSystem::IsSameFile(const std::string& one, const std::string& other) {
@@ -198,6 +210,15 @@ void FaultyFileSystem::ApplyLosses() {
         IgnoreFailure(inner.Value()->Write(file->flushed));  // it fitted before
         IgnoreFailure(inner.Value()->Write(file->unflushed.substr(0, kept)));
     }
+}
+
+// What is known of a file before it is opened to be appended to.
+FaultyFileSystem::Written FaultyFileSystem::Before(const std::string& path) {
+    for (const std::shared_ptr<Written>& file : written_) {
+        if (FoldName(file->path) == FoldName(path))
+            return {path, file->flushed, file->unflushed};
+    }
+    return {path, unflushed_ == Unflushed::Kept ? "" : WholeFile(path), ""};
 }
 
 void FaultyFileSystem::Forget(const std::string& path) {

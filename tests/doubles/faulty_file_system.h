@@ -47,12 +47,14 @@ class FaultyFileSystem : public FileSystem {
     Result<std::uint64_t> FreeSpace(const std::string& root) override;
 
     // Calls are numbered from 1, those on opened files among them. A failed call does not reach the
-    // inner file system, but a Copy that fails with NoSpace has written half of its bytes.
+    // inner file system, but a Copy that fails with NoSpace has written half of its bytes, over the
+    // older file where it overwrites one.
     void FailAt(int call, FileError error);
     void FailFrom(int call, FileError error);
     // The program is killed at this call: neither it nor any later one reaches the inner file
-    // system, and all of them fail. A file that is open then stays as `unflushed` says; under the
-    // two power failures so does one that was closed without a flush.
+    // system, and all of them fail; but a Copy that dies in the middle has written half of its
+    // bytes. A file that is open then stays as `unflushed` says; under the two power failures so
+    // does one that was closed without a flush, and one that was copied and not flushed since.
     void KillAt(int call, Unflushed unflushed);
 
     // Since the start, or since Restart.
@@ -82,7 +84,9 @@ class FaultyFileSystem : public FileSystem {
     void Forget(const std::string& path);
     void Moved(const std::string& from, const std::string& to);
     std::string WholeFile(const std::string& path);
-    void CopyHalf(const std::string& from, const std::string& to);
+    void CopyHalf(const std::string& from, const std::string& to, bool overwrite);
+    void Copied(const std::string& to);
+    Written Before(const std::string& path);
 
     FileSystem& inner_;
     std::vector<std::string> calls_;

@@ -47,7 +47,6 @@ class ControlCore {
     virtual void ClearSelection() {}
 
     const ControlRow& Row() const { return row_; }
-    ControlCore* Parent() const { return parent_; }
     int TopTwips() const { return topTwips_; }
     bool EffectivelyEnabled() const;
     // Shown as far as this window goes: neither it nor an ancestor is hidden or on a page behind.

@@ -20,7 +20,8 @@ namespace zentar {
 
 class MemoryFileSystem : public FileSystem {
   public:
-    // Has the empty drives C: and D:. Every call but Info is entered in the log, if there is one.
+    // Has the empty drives C: and D:. Every call but Info and IsSameFile is entered in the log, if
+    // there is one; DeleteOriginal as "Delete".
     explicit MemoryFileSystem(EventLog* log = nullptr);
 
     Status Enumerate(const std::string& folder, const EntryVisitor& visit) override;

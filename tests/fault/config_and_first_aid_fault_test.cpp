@@ -76,12 +76,7 @@ const std::vector<Unsaid> kButtonDisabled = {{kDriver, "the button is disabled t
 const std::vector<Unsaid> kWithoutNote = {
     {"C:\\Quake3\\Single-Player Backups\\Single-Player Backups.txt", "nobody waits for the note"}};
 
-INSTANTIATE_TEST_SUITE_P(ConfigAndFirstAid, CommandFaults,
-                         ::testing::ValuesIn(ConfigAndFirstAidCommands()), NameOfCommand);
-
-}  // namespace
-
-std::vector<CommandCase> ConfigAndFirstAidCommands() {
+std::vector<CommandCase> ConfigCommands() {
     return {
         CommandCase{"Backup", Prepare, Click(IDC_cmdQ3Backup), {.replaced = {kBackup}}},
         CommandCase{
@@ -93,53 +88,69 @@ std::vector<CommandCase> ConfigAndFirstAidCommands() {
         CommandCase{"EditReadOnlyConfig",
                     PrepareReadOnly,
                     Click(IDC_cmdQ3ConfigEdit),
-                    {.replaced = {kConfig}}},
-        CommandCase{
-            "CreateAutoexec", Prepare, Remedy(Symptom::SettingsNotSaved, IDC_cmdRemedy1), {}},
-        CommandCase{"RemoveExecing",
-                    Prepare,
-                    Remedy(Symptom::ExecingMessages, IDC_cmdRemedy1),
-                    {.patched = {kQuake2Exe}}},
-        CommandCase{"RemoveSoundBuffers",
-                    Prepare,
-                    Remedy(Symptom::SoundBufferMessages, IDC_cmdRemedy1),
-                    {.patched = {kQuake2Exe}}},
-        CommandCase{"SetDriverAside",
-                    [](CommandRun& run) {
-                        Prepare(run);
-                        run.files.AddFile(kDriver, "driver");
-                    },
-                    Remedy(Symptom::SoftwareMode, IDC_cmdRemedy1),
-                    {.moved = {{kDriver, kDriverSetAside}}},
-                    {},
-                    kButtonDisabled},
-        CommandCase{"PutDriverBack",
-                    [](CommandRun& run) {
-                        Prepare(run);
-                        run.files.AddFile(kDriverSetAside, "driver");
-                    },
-                    Remedy(Symptom::SoftwareMode, IDC_cmdRemedy2),
-                    {.moved = {{kDriverSetAside, kDriver}}},
-                    {},
-                    kButtonDisabled},
-        CommandCase{"MoveStrays",
-                    Prepare,
-                    Remedy(Symptom::ModelNotSelectable, IDC_cmdRemedy1),
-                    kMovedStrays,
-                    {},
-                    kStraysStay},
-        CommandCase{"MoveReadOnlyStrays",
-                    PrepareReadOnly,
-                    Remedy(Symptom::CrashOnModelChange, IDC_cmdRemedy1),
-                    kMovedStrays,
-                    {},
-                    kStraysStay},
-        CommandCase{"SwitchToQuake3",
-                    Prepare,
-                    Remedy(Symptom::ProtocolVersion, IDC_cmdRemedy1),
-                    {},
-                    {},
-                    kWithoutNote}};
+                    {.replaced = {kConfig}}}};
+}
+
+std::vector<CommandCase> FirstAidCommands() {
+    return {CommandCase{
+                "CreateAutoexec", Prepare, Remedy(Symptom::SettingsNotSaved, IDC_cmdRemedy1), {}},
+            CommandCase{"RemoveExecing",
+                        Prepare,
+                        Remedy(Symptom::ExecingMessages, IDC_cmdRemedy1),
+                        {.patched = {kQuake2Exe}}},
+            CommandCase{"RemoveSoundBuffers",
+                        Prepare,
+                        Remedy(Symptom::SoundBufferMessages, IDC_cmdRemedy1),
+                        {.patched = {kQuake2Exe}}},
+            CommandCase{"SetDriverAside",
+                        [](CommandRun& run) {
+                            Prepare(run);
+                            run.files.AddFile(kDriver, "driver");
+                        },
+                        Remedy(Symptom::SoftwareMode, IDC_cmdRemedy1),
+                        {.moved = {{kDriver, kDriverSetAside}}},
+                        {},
+                        kButtonDisabled},
+            CommandCase{"PutDriverBack",
+                        [](CommandRun& run) {
+                            Prepare(run);
+                            run.files.AddFile(kDriverSetAside, "driver");
+                        },
+                        Remedy(Symptom::SoftwareMode, IDC_cmdRemedy2),
+                        {.moved = {{kDriverSetAside, kDriver}}},
+                        {},
+                        kButtonDisabled},
+            CommandCase{"MoveStrays",
+                        Prepare,
+                        Remedy(Symptom::ModelNotSelectable, IDC_cmdRemedy1),
+                        kMovedStrays,
+                        {},
+                        kStraysStay},
+            CommandCase{"MoveReadOnlyStrays",
+                        PrepareReadOnly,
+                        Remedy(Symptom::CrashOnModelChange, IDC_cmdRemedy1),
+                        kMovedStrays,
+                        {},
+                        kStraysStay},
+            CommandCase{"SwitchToQuake3",
+                        Prepare,
+                        Remedy(Symptom::ProtocolVersion, IDC_cmdRemedy1),
+                        {},
+                        {},
+                        kWithoutNote}};
+}
+
+INSTANTIATE_TEST_SUITE_P(ConfigAndFirstAid, CommandFaults,
+                         ::testing::ValuesIn(ConfigAndFirstAidCommands()), NameOfCommand);
+
+}  // namespace
+
+std::vector<CommandCase> ConfigAndFirstAidCommands() {
+    std::vector<CommandCase> commands = ConfigCommands();
+    for (const CommandCase& command : FirstAidCommands()) {
+        commands.push_back(command);
+    }
+    return commands;
 }
 
 }  // namespace zentar

@@ -110,34 +110,7 @@ CommandCase OnDemo(const char* name, int entry, Allowed allowed) {
     return {name, Prepare, Pick(entry), std::move(allowed), SelectDuel, kSeenInTheList};
 }
 
-INSTANTIATE_TEST_SUITE_P(Demos, CommandFaults, ::testing::ValuesIn(DemoCommands()), NameOfCommand);
-
-// The packs are of no use to the next game under any other name.
-TEST(PlaybackFault, ThePacksAreBackUnderTheirNamesAfterTheNextShutdown) {
-    const CommandCase play = PlayAndPutBack();
-    const int calls = static_cast<int>(CommandSweep(play).Calls().size());
-    for (const FileError error : kFaults) {
-        for (int call = 1; call <= calls; ++call) {
-            CommandRun run(play);
-            run.faulty.FailAt(call, error);
-            PlayToItsEnd(run);
-            const std::string failed = run.faulty.CallName(call);
-            run.faulty.Restart();
-            run.Window().UserClose();
-            for (const auto& [shown, hidden] : HiddenPaks()) {
-                EXPECT_TRUE(run.files.Exists(shown)) << shown << "; " << failed;
-            }
-        }
-    }
-}
-
-}  // namespace
-
-std::vector<CommandCase> DemoCommands() {
-    const std::string unzipped2 = "D:\\Unzipped\\new.dm2";
-    const std::string installed2 = kDemos + "new.dm2";
-    const std::string unzipped3 = "D:\\Unzipped\\old.dm3";
-    const std::string installed3 = "C:\\Quake3\\osp\\demos\\old.dm3";
+std::vector<CommandCase> DeletionsAndRenames() {
     return {
         OnDemo("Delete", IDM_mnuDemosDelete, {.given = {kDuel}}),
         OnDemo("DeleteAll", IDM_mnuDemosDeleteAll, {.given = {kDuel, kOther}}),
@@ -154,6 +127,11 @@ std::vector<CommandCase> DemoCommands() {
                     [](CommandRun& run) { run.ShowTab(1); },
                     {{kFake, "offered when the file can be read"},
                      {kFake + "!", "offered when the file can be read"}}},
+    };
+}
+
+std::vector<CommandCase> CopiesAndMoves() {
+    return {
         OnDemo("Copy", IDM_mnuDemosCopy, {.replaced = {kRemoteDuel}}),
         OnDemo("Move", IDM_mnuDemosMove,
                {.replaced = {kRemoteDuel}, .moved = {{kDuel, kRemoteDuel}}}),
@@ -181,6 +159,15 @@ std::vector<CommandCase> DemoCommands() {
                     SelectDuelFor("S:\\"),
                     {},
                     true},
+    };
+}
+
+std::vector<CommandCase> Installations() {
+    const std::string unzipped2 = "D:\\Unzipped\\new.dm2";
+    const std::string installed2 = kDemos + "new.dm2";
+    const std::string unzipped3 = "D:\\Unzipped\\old.dm3";
+    const std::string installed3 = "C:\\Quake3\\osp\\demos\\old.dm3";
+    return {
         CommandCase{"InstallWhatIsThere",
                     [unzipped2, installed2](CommandRun& run) {
                         Prepare(run);
@@ -202,8 +189,39 @@ std::vector<CommandCase> DemoCommands() {
                     {.moved = {{unzipped3, installed3}}},
                     SelectDuel,
                     {{unzipped3, "installed all the same"}}},
-        PlayAndPutBack(),
     };
+}
+
+INSTANTIATE_TEST_SUITE_P(Demos, CommandFaults, ::testing::ValuesIn(DemoCommands()), NameOfCommand);
+
+// The packs are of no use to the next game under any other name.
+TEST(PlaybackFault, ThePacksAreBackUnderTheirNamesAfterTheNextShutdown) {
+    const CommandCase play = PlayAndPutBack();
+    const int calls = static_cast<int>(CommandSweep(play).Calls().size());
+    for (const FileError error : kFaults) {
+        for (int call = 1; call <= calls; ++call) {
+            CommandRun run(play);
+            run.faulty.FailAt(call, error);
+            PlayToItsEnd(run);
+            const std::string failed = run.faulty.CallName(call);
+            run.faulty.Restart();
+            run.Window().UserClose();
+            for (const auto& [shown, hidden] : HiddenPaks()) {
+                EXPECT_TRUE(run.files.Exists(shown)) << shown << "; " << failed;
+            }
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<CommandCase> DemoCommands() {
+    std::vector<CommandCase> commands = DeletionsAndRenames();
+    for (const std::vector<CommandCase>& more : {CopiesAndMoves(), Installations()}) {
+        commands.insert(commands.end(), more.begin(), more.end());
+    }
+    commands.push_back(PlayAndPutBack());
+    return commands;
 }
 
 }  // namespace zentar

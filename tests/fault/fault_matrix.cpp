@@ -46,15 +46,6 @@ std::string NameOf(FileError error) {
     }
 }
 
-template <typename Words>
-std::string Joined(const Words& words, std::string_view separator) {
-    std::string joined;
-    for (const std::string& word : words) {
-        joined.append(joined.empty() ? "" : separator).append(word);
-    }
-    return joined;
-}
-
 void AddNew(std::vector<std::string>& words, const std::string& word) {
     if (std::find(words.begin(), words.end(), word) == words.end()) {
         words.push_back(word);

@@ -21,14 +21,6 @@ std::optional<std::string> ReasonFor(const CommandCase& command, const std::stri
                                                                          : std::nullopt;
 }
 
-std::string Joined(const std::set<std::string>& words, const std::string& separator) {
-    std::string joined;
-    for (const std::string& word : words) {
-        joined += (joined.empty() ? "" : separator) + word;
-    }
-    return joined;
-}
-
 std::string Names(const std::vector<std::string>& paths) {
     std::set<std::string> names;
     for (const std::string& path : paths) {
@@ -66,7 +58,7 @@ std::string LastNameOf(const std::string& path) {
 bool IsUnfinished(const std::string& path) {
     const std::string name = LastNameOf(path);
     return name == "zentar-copy.tmp" || name == "zentar.tmp" || name == "tmp.bmp" ||
-           name == "zentar.ini.new";
+           name == "zentar.ini.new" || name == "zentar-jpg.tmp.lock";
 }
 
 std::vector<std::string> UnsaidWithoutAReason(const CommandSweep& sweep, const FaultedRun& run) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/fault/command_sweep.h"
@@ -21,5 +22,14 @@ std::string OutcomeOf(const CommandSweep& sweep, const FaultedRun& run);
 
 // "C:\Games\a.tga" -> "a.tga", "C:\Games\" -> "Games\".
 std::string LastNameOf(const std::string& path);
+
+template <typename Words>
+std::string Joined(const Words& words, std::string_view separator) {
+    std::string joined;
+    for (const std::string& word : words) {
+        joined.append(joined.empty() ? "" : separator).append(word);
+    }
+    return joined;
+}
 
 }  // namespace zentar

@@ -11,6 +11,8 @@ inline Message Failure(const std::string& text) {
     return {"Error", text, MessageIcon::Exclamation};
 }
 
+inline Message Critical(const std::string& text) { return {"Error", text, MessageIcon::Critical}; }
+
 inline Message Confirm(const std::string& text) {
     return {"Confirm", text, MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
 }

@@ -26,6 +26,9 @@ class FileTransferTest : public ::testing::Test {
     static FileTransfer To(const std::string& target, bool overwrites = false) {
         return {.source = kSource, .target = target, .overwrites = overwrites};
     }
+    bool HasRoomFor(std::uint64_t length, const std::string& target) {
+        return HasRoom(os_.Services(), TransferVerb::Copy, To(target), length, "shot");
+    }
     OriginalOutcome DeleteOriginal(const FileTransfer& file) {
         return DeleteTransferred(os_.Services(), file, question_);
     }
@@ -47,17 +50,26 @@ TEST_F(FileTransferTest, DrivesAreToldApartWhateverTheirCase) {
 
 TEST_F(FileTransferTest, OnlyTooLittleSpaceIsTold) {
     os_.files.SetFreeSpace("D:\\", 8);
-    EXPECT_EQ(SpaceThatIsTooSmall(os_.files, To("D:\\To\\file.tga"), 8), std::nullopt);
-    EXPECT_EQ(SpaceThatIsTooSmall(os_.files, To("D:\\To\\file.tga"), 9), std::optional(8U));
+    EXPECT_TRUE(HasRoomFor(8, "D:\\To\\file.tga"));
+    os_.windows.Expect({"Error",
+                        "No space on your D drive to copy this shot!\r\n\r\n"
+                        "Shot's file size (bytes):\t9\r\nDisk space free (bytes):\t8",
+                        MessageIcon::Exclamation});
+    EXPECT_FALSE(HasRoomFor(9, "D:\\To\\file.tga"));
 }
 
 TEST_F(FileTransferTest, ADriveThatDoesNotSayTakesTheCopy) {
-    EXPECT_EQ(SpaceThatIsTooSmall(os_.files, To("X:\\To\\file.tga"), 8), std::nullopt);
+    EXPECT_TRUE(HasRoomFor(8, "X:\\To\\file.tga"));
 }
 
 TEST_F(FileTransferTest, OfTheNetworkTheFolderIsAskedFor) {
-    SpaceThatIsTooSmall(os_.files, To("\\\\server\\share\\To\\file.tga"), 8);
+    EXPECT_TRUE(HasRoomFor(8, "\\\\server\\share\\To\\file.tga"));
     EXPECT_TRUE(os_.log.Has("FreeSpace \\\\server\\share\\To\\"));
+}
+
+TEST_F(FileTransferTest, AMoveOnOneDriveNeedsNoSpace) {
+    os_.files.SetFreeSpace("C:\\", 0);
+    EXPECT_TRUE(HasRoom(os_.Services(), TransferVerb::Move, To("C:\\To\\file.tga"), 9, "shot"));
 }
 
 TEST_F(FileTransferTest, ACopyRemembersWhatItWasMadeOf) {
@@ -139,6 +151,24 @@ TEST_F(FileTransferTest, AnOriginalThatIsAnotherFileByNowStays) {
     os_.files.AddFile(kSource, "8 bytes!");
     EXPECT_EQ(DeleteOriginal(file), OriginalOutcome::NotDeletable);
     EXPECT_EQ(os_.files.Contents(kSource), "8 bytes!");
+}
+
+TEST_F(FileTransferTest, OnlyAnOriginalThatCannotGoIsTold) {
+    const Message notDeletable = {"Error", "It stays.", MessageIcon::Critical};
+    const auto isGone = [&](const FileTransfer& file) {
+        return DeleteTransferredOrTell(os_.Services(), file, question_, notDeletable);
+    };
+    FileTransfer file = To("D:\\To\\file.tga");
+    ASSERT_EQ(CopyToTarget(os_.files, file), CopyOutcome::Whole);
+    os_.files.SetLocked(kSource);
+    os_.windows.Expect(notDeletable);
+    EXPECT_FALSE(isGone(file));
+    os_.files.SetLocked(kSource, false);
+    os_.files.SetReadOnly(kSource);
+    os_.windows.Expect(question_, Answer::No);
+    EXPECT_FALSE(isGone(file));
+    os_.windows.Expect(question_, Answer::Yes);
+    EXPECT_TRUE(isGone(file));
 }
 
 TEST_F(FileTransferTest, AFileThatWasCarriedToItselfStays) {

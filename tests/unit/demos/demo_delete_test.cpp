@@ -88,12 +88,12 @@ TEST_F(DemoDelete, BehindTheLastDemoComesTheOneBeforeIt) {
 TEST_F(DemoDelete, AReadOnlyDemoIsAskedAboutAfterTheQuestionAndInExpertModeToo) {
     os.files.SetReadOnly(PathOf("b.dm2"));
     ExpectQuestion(Answer::Yes);
-    os.windows.Expect(ReadOnly(kReadOnly), Answer::No);
+    os.windows.Expect(ReadOnlyQuestion(kReadOnly), Answer::No);
     Pick("b", IDM_mnuDemosDelete);
     EXPECT_TRUE(os.files.IsReadOnly(PathOf("b.dm2")));
     EXPECT_EQ(Selected(), "b");
     state.settings.Expert = 1;
-    os.windows.Expect(ReadOnly(kReadOnly), Answer::Yes);
+    os.windows.Expect(ReadOnlyQuestion(kReadOnly), Answer::Yes);
     Pick("b", IDM_mnuDemosDelete);
     EXPECT_THAT(Names(), ElementsAre("a.dm2", "c.dm2"));
 }
@@ -166,17 +166,29 @@ TEST_F(DeleteAll, AllThreeQuake3ExtensionsGo) {
     EXPECT_THAT(Names(), IsEmpty());
 }
 
+TEST_F(DeleteAll, ADemoWhoseNameEndsInABlankCostsNoOther) {
+    state.settings.Expert = 1;
+    Use(kQuake3, "baseq3");
+    AddDemo("duel .dm3", DemoKind::Dm3, {});
+    AddDemo("duel.dm_48", DemoKind::Dm48, {});
+    tab->RefreshDemoList();
+    EXPECT_THAT(Listed(), ElementsAre("duel "));
+    Pick("duel ", IDM_mnuDemosDelete);
+    EXPECT_THAT(Names(), ElementsAre("duel .dm3"));
+    EXPECT_THAT(Listed(), IsEmpty());
+}
+
 TEST_F(DeleteAll, ReadOnlyDemosAreAskedAboutOnce) {
     state.settings.Expert = 1;
     os.files.SetReadOnly(PathOf("a.dm2"));
     os.files.SetReadOnly(PathOf("c.dm2"));
-    os.windows.Expect(ReadOnly(kReadOnly), Answer::No);
+    os.windows.Expect(ReadOnlyQuestion(kReadOnly), Answer::No);
     os.windows.Expect(
         Failure("2 out of 3 demos couldn't be deleted.\r\n\r\n"
                 "They may be read-only or in use, or their folder may be protected."));
     Pick("", IDM_mnuDemosDeleteAll);
     EXPECT_THAT(Names(), ElementsAre("a.dm2", "c.dm2"));
-    os.windows.Expect(ReadOnly(kReadOnly), Answer::Yes);
+    os.windows.Expect(ReadOnlyQuestion(kReadOnly), Answer::Yes);
     Pick("", IDM_mnuDemosDeleteAll);
     EXPECT_THAT(Names(), IsEmpty());
 }

@@ -66,6 +66,15 @@ TEST(DemoName, BlanksOfOtherGamesNamesAreNoMarkers) {
     EXPECT_EQ(RealExtension("duel ", ".dm2"), ".dm2");
 }
 
+TEST(DemoName, ANameThatWouldStandForAnotherFileIsNotListed) {
+    EXPECT_EQ(DemoEntry("duel .dm3", ".dm3"), std::nullopt);
+    EXPECT_EQ(DemoEntry("duel  .DM3", ".dm3"), std::nullopt);
+    EXPECT_EQ(DemoEntry("duel .dm_48", ".dm3"), std::nullopt);
+    EXPECT_EQ(DemoEntry("duel .Dm_66", ".dm3"), "duel   ");
+    EXPECT_EQ(RealPath(kFolder, "duel   ", ".dm3"), kFolder + "duel .dm_66");
+    EXPECT_EQ(DemoEntry("duel .dm2", ".dm2"), "duel ");
+}
+
 TEST(DemoName, ANameOfNothingButItsExtensionIsFoundAgain) {
     EXPECT_EQ(DemoEntry(".dm_66", ".dm3"), "  ");
     EXPECT_EQ(RealPath(kFolder, "  ", ".dm3"), kFolder + ".dm_66");

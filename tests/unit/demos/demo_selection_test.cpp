@@ -41,6 +41,17 @@ TEST_F(DemoSelection, AQuake2DemoShowsItsProperties) {
     EXPECT_FALSE(demo.NotADemo);
 }
 
+TEST_F(DemoSelection, WithoutASelectedEntryNoFileIsLookedAt) {
+    Use(kQuake2, "ctf");
+    AddDemo("duel.dm2", DemoKind::Dm2, {.map = "q2ctf1"});
+    tab->RefreshDemoList();
+    Select("duel");
+    form->GetListBox(IDC_lstDemos).SetItems({"duel"});
+    tab->lstDemos_Click();
+    EXPECT_EQ(tab->SelectedDemo().Item, "duel");
+    EXPECT_EQ(Text(IDC_labDemoMap), "Map: q2ctf1");
+}
+
 TEST_F(DemoSelection, SizesAreGroupedAndZeroIsWrittenOut) {
     Use(kQuake3, "baseq3");
     AddDemo("empty.dm_66", "");

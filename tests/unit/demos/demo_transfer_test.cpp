@@ -35,10 +35,6 @@ class DemoTransferTest : public DemosTabTest {
     bool IsHere() { return os.files.Exists(PathOf("duel.dm2")); }
     std::string There() { return os.files.Contents(state.settings.Remote + "duel.dm2"); }
 
-    static Message Critical(const std::string& text) {
-        return {"Error", text, MessageIcon::Critical};
-    }
-
     std::string bytes_;
 };
 
@@ -166,7 +162,7 @@ TEST_F(DemoTransferTest, AReadOnlyDemoThatIsThereIsAskedAboutToo) {
     os.files.AddFile(kRemote + "duel.dm2", "old");
     os.files.SetReadOnly(kRemote + "duel.dm2");
     const Message overwrite = Confirm("Demo already exists in Remote Folder -- Overwrite?");
-    const Message readOnly = ReadOnly(
+    const Message readOnly = ReadOnlyQuestion(
         "Can't overwrite existing demo due to it being read-only.\r\n"
         "Would you like me to remove this setting to force the overwrite?");
     os.windows.Expect(overwrite, Answer::Yes);
@@ -182,7 +178,7 @@ TEST_F(DemoTransferTest, AReadOnlyDemoThatIsThereIsAskedAboutToo) {
 
 TEST_F(DemoTransferTest, AReadOnlyDemoIsDeletedAfterItsCopyOnlyOnYes) {
     os.files.SetReadOnly(PathOf("duel.dm2"));
-    const Message readOnly = ReadOnly(
+    const Message readOnly = ReadOnlyQuestion(
         "This demo couldn't be deleted due to being set as read-only.\r\n"
         "Would you like me to remove this setting to force the deletion?");
     os.windows.Expect(readOnly, Answer::No);
@@ -331,9 +327,10 @@ TEST_F(DemoTransferTest, AnOriginalThatCannotBeDeletedIsTold) {
 TEST_F(DemoTransferTest, ADemoRecordedInItsPlaceMeanwhileIsNotDeleted) {
     const std::string recorded = samples::MakeDemo(DemoKind::Dm2, {.levelName = "A new one"});
     os.files.SetReadOnly(PathOf("duel.dm2"));
-    os.windows.Expect(ReadOnly("This demo couldn't be deleted due to being set as read-only.\r\n"
-                               "Would you like me to remove this setting to force the deletion?"),
-                      Answer::Yes, [&] { AddDemo("duel.dm2", recorded); });
+    os.windows.Expect(
+        ReadOnlyQuestion("This demo couldn't be deleted due to being set as read-only.\r\n"
+                         "Would you like me to remove this setting to force the deletion?"),
+        Answer::Yes, [&] { AddDemo("duel.dm2", recorded); });
     os.windows.Expect(
         Critical("Demo was copied to Remote Folder, but could not be deleted\r\n"
                  "and so the original demo still remains in its rocket sub-folder."));

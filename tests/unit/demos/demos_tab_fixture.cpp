@@ -57,18 +57,6 @@ std::vector<std::string> DemosTabTest::Names(const std::string& folder) {
     return os.files.Names(folder.empty() ? state.current.DemoFolder : folder);
 }
 
-Message DemosTabTest::Confirm(const std::string& text) {
-    return {"Confirm", text, MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
-}
-
-Message DemosTabTest::ReadOnly(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation, MessageButtons::YesNo, DefaultButton::Second};
-}
-
-Message DemosTabTest::Failure(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation};
-}
-
 void DemosTabTest::AddDemo(const std::string& name, const std::string& bytes) {
     os.files.AddFile(PathOf(name), bytes);
 }

@@ -11,6 +11,7 @@
 #include "demos/demos_tab.h"
 #include "samples/demo_maker.h"
 #include "tests/doubles/memory_platform.h"
+#include "tests/unit/expected_boxes.h"
 #include "ui/form_bindings.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
@@ -52,11 +53,6 @@ class DemosTabTest : public testing::Test {
     Message Offer(const std::string& game) const;
     // The names in a folder, that of the current mod's demos by default.
     std::vector<std::string> Names(const std::string& folder = {});
-
-    // Boxes of the kinds that the commands show.
-    static Message Confirm(const std::string& text);
-    static Message ReadOnly(const std::string& text);
-    static Message Failure(const std::string& text);
 
     MemoryPlatform os;
     ProgramState state;

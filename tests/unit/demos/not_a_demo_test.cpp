@@ -88,10 +88,21 @@ TEST_F(NotADemo, InAProtectedFolderTheListStaysAsItIs) {
     os.files.SetWritingDenied(state.current.DemoFolder);
     const auto before = os.files.AllFiles();
     os.windows.Expect(Offer("Quake2"), Answer::Yes);
-    os.windows.Expect(messages::NotADemoRenameFailed(FileError::AccessDenied));
+    os.windows.Expect(
+        Failure("The selected file couldn't be renamed.\r\n\r\n"
+                "The file may be in use, or its folder may be protected."));
     Select("text");
     EXPECT_EQ(os.files.AllFiles(), before);
     EXPECT_EQ(Selected(), "text");
+}
+
+TEST_F(NotADemo, AFileThatVanishedMeanwhileIsToldOfAndLeavesTheList) {
+    os.windows.Expect(Offer("Quake2"), Answer::Yes,
+                      [this] { os.files.Remove(PathOf("text.dm2")); });
+    os.windows.Expect(Failure("This demo is no longer in its folder."));
+    Select("text");
+    EXPECT_EQ(Listed(), Entries{"duel"});
+    EXPECT_EQ(Selected(), "");
 }
 
 TEST_F(NotADemo, TheFileOfTheQuestionIsRenamedWhateverWasSelectedMeanwhile) {

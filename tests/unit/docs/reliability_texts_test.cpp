@@ -10,7 +10,7 @@
 
 #include "core/messages.h"
 #include "demos/demo_messages.h"
-#include "demos/transfer_messages.h"
+#include "demos/demo_transfer_messages.h"
 #include "firstaid/first_aid_messages.h"
 #include "q3tools/config_messages.h"
 #include "q3tools/q3_text_messages.h"

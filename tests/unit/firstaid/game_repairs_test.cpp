@@ -4,10 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "core/program_info.h"
+#include "tests/doubles/faulty_file_system.h"
 #include "tests/doubles/memory_file_system.h"
 
 namespace zentar {
@@ -159,6 +161,26 @@ TEST_F(StraysAcrossDrives, AreNotThereTwiceWhereTheOriginalCannotGo) {
         EXPECT_EQ(files.Contents(kStray), "skin");
         EXPECT_THAT(files.Names(kStrays), ElementsAre("Strays Info.txt"));
     }
+}
+
+// An image viewer, say, lets others read a picture that it shows, but not delete it.
+TEST_F(StraysAcrossDrives, StayReadOnlyWhereTheOriginalIsInUse) {
+    files.SetReadOnly(kStray);
+    FaultyFileSystem faulty(files);
+    MoveStrays(faulty, kGame, kLinked);
+    const std::vector<std::string>& calls = faulty.Calls();
+    const auto deletion = std::find(calls.begin(), calls.end(),
+                                    "DeleteOriginal " + kStray + " of " + kStrays + "a.pcx") -
+                          calls.begin() + 1;
+    files.AddFile(kStray, "skin");
+    files.SetReadOnly(kStray);
+    files.Remove(kStrays + "a.pcx");
+    faulty.Restart();
+    faulty.FailAt(static_cast<int>(deletion), FileError::InUse);
+    MoveStrays(faulty, kGame, kLinked);
+    EXPECT_EQ(files.Contents(kStray), "skin");
+    EXPECT_TRUE(files.IsReadOnly(kStray));
+    EXPECT_THAT(files.Names(kStrays), ElementsAre("Strays Info.txt"));
 }
 
 TEST_F(GameRepairs, WhatCannotBeMovedStays) {

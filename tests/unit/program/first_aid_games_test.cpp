@@ -95,11 +95,19 @@ TEST_F(FirstAidTest, StraysAreMovedAndScreenshotFoldersMadeWhateverGameIsCurrent
 TEST_F(FirstAidTest, AGameThatIsNotInstalledHasNoFoldersToRepair) {
     WriteSettings({"Game=Quake3"});
     os.files.Remove(kQuake2Folder + "quake2.exe");
+    os.files.AddFile(kQuake2Folder + "baseq2\\players\\stray.pcx", "stray");
     StartOnFirstAid();
     EXPECT_EQ(State().games[kQuake2Row].GameFolder, "c:");
-    Apply(Symptom::CrashOnScreenshot);
+    const std::map<std::string, std::string> before = os.files.AllFiles();
+    for (const Symptom symptom :
+         {Symptom::ModelNotSelectable, Symptom::CrashOnModelChange, Symptom::CrashOnScreenshot}) {
+        os.windows.Expect(FolderUnknown("Quake2"));
+        Apply(symptom);
+    }
+    EXPECT_EQ(os.files.AllFiles(), before);
     EXPECT_FALSE(os.files.Exists(kQuake2Folder + "rocket\\scrnshot"));
     EXPECT_FALSE(os.files.Exists("C:\\Games\\scrnshot"));
+    EXPECT_THAT(os.windows.Sounds(), IsEmpty());
 }
 
 TEST_F(FirstAidTest, AVersionMismatchSwitchesToQuake3AndLeavesNothingSelected) {

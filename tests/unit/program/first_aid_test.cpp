@@ -184,12 +184,14 @@ TEST_F(FirstAidTest, AnExecutableThatCannotBeChangedIsToldOf) {
     EXPECT_THAT(os.windows.Sounds(), IsEmpty());
 }
 
-TEST_F(FirstAidTest, AnExecutableThatIsNotThereIsToldOf) {
+TEST_F(FirstAidTest, MessagesOfAGameThatIsNotInstalledCannotBeRemoved) {
+    WriteSettings({"Game=Quake1"});
+    os.files.Remove(kQuake2Folder + "quake2.exe");
     os.files.Remove(kQuake3Folder + "quake3.exe");
     StartOnFirstAid();
-    os.windows.Expect(
-        Failure("The game's executable couldn't be changed.\r\n\r\n"
-                "The game may be running, or the file may be write-protected."));
+    os.windows.Expect(FolderUnknown("Quake2"));
+    Apply(Symptom::SoundBufferMessages);
+    os.windows.Expect(FolderUnknown("Quake3"));
     Apply(Symptom::CouldntWriteMessages);
     EXPECT_THAT(os.windows.Sounds(), IsEmpty());
 }

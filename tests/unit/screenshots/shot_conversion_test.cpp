@@ -43,7 +43,7 @@ class ShotConversionTest : public ShotsTabTest {
 
     const Message kill_ = Confirm("Really kill original after converting to JPG?");
     const Message overwrite_ = Confirm("Really overwrite the existing JPG version?");
-    const Message readOnly_ = Question(
+    const Message readOnly_ = ReadOnlyQuestion(
         "JPG version exists and can't be overwritten due to being read-only.\r\n"
         "Would you like me to remove this setting and force the overwrite?");
     const Message notMade_ = Critical(
@@ -53,7 +53,7 @@ class ShotConversionTest : public ShotsTabTest {
     const Message notKilled_ = Critical(
         "JPG version was made, but the original could not be deleted\r\n"
         "and so the original image still remains in its Quake2 sub-folder.");
-    const Message readOnlyOriginal_ = Question(
+    const Message readOnlyOriginal_ = ReadOnlyQuestion(
         "Screenshot couldn't be deleted due to being set as read-only.\r\n"
         "Would you like me to remove this setting to force the deletion?");
     const std::string jpg_ = PictureFile({640, 480}, "jpg-of-a");

@@ -26,11 +26,11 @@ class ShotDeleteTest : public ShotsTabTest {
     }
 
     const Message delete_ = Confirm("Really delete this screenshot?");
-    const Message readOnly_ = Question(
+    const Message readOnly_ = ReadOnlyQuestion(
         "Screenshot couldn't be deleted due to being set as read-only.\r\n"
         "Would you like me to remove this setting to force the deletion?");
     const Message deletePreview_ = Confirm("Really delete this screenshot's preview image?");
-    const Message readOnlyPreview_ = Question(
+    const Message readOnlyPreview_ = ReadOnlyQuestion(
         "Preview couldn't be deleted due to being set as read-only.\r\n"
         "Would you like me to remove this setting and force the delete?");
 };

@@ -159,6 +159,25 @@ TEST_F(ShotRenameTest, ItsPreviewTakesThePlaceOfOneThatNobodyHas) {
     EXPECT_EQ(Contents("duel.zentar"), PictureFile({320, 240}, "duel"));
 }
 
+TEST_F(ShotRenameTest, WithoutAPreviewItDoesNotGetThatOfAShotThatHasGone) {
+    os.files.Remove(PathOf("Shot0001.zentar"));
+    AddFile("duel.zentar", PictureFile({320, 240}, "of-a-shot-long-gone"));
+    Rename("Duel");
+    EXPECT_THAT(Names(), ElementsAre("Duel.TGA", "other.tga"));
+    EXPECT_THAT(Listed(), ElementsAre("Duel.TGA", "other.tga"));
+}
+
+TEST_F(ShotRenameTest, WithoutAPreviewItSharesThatOfAListedShot) {
+    os.files.Remove(PathOf("Shot0001.zentar"));
+    AddShot("DUEL.jpg");
+    AddFile("duel.zentar", PictureFile({320, 240}, "shared"));
+    Refresh();
+    form->UserSelect(IDC_lstScreenshots, "Shot0001.TGA");
+    os.files.Remove(PathOf("Shot0001.zentar"));
+    Rename("duel");
+    EXPECT_EQ(Contents("duel.zentar"), PictureFile({320, 240}, "shared"));
+}
+
 TEST_F(ShotRenameTest, APreviewThatAProgramHoldsStaysBehind) {
     os.files.SetLocked(PathOf("Shot0001.zentar"));
     Rename("duel");

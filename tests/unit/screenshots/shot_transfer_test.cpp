@@ -42,10 +42,10 @@ class ShotTransferTest : public ShotsTabTest {
     }
 
     const Message overwrite_ = Confirm("Image already exists in Remote Folder -- Overwrite?");
-    const Message readOnly_ = Question(
+    const Message readOnly_ = ReadOnlyQuestion(
         "Can't overwrite existing image due to it being read-only.\r\n"
         "Would you like me to remove this setting to force the overwrite?");
-    const Message readOnlyOriginal_ = Question(
+    const Message readOnlyOriginal_ = ReadOnlyQuestion(
         "Screenshot couldn't be deleted due to being set as read-only.\r\n"
         "Would you like me to remove this setting to force the deletion?");
     const Message notMoved_ = Critical(

@@ -167,7 +167,7 @@ TEST_F(ShotViewingTest, AProtectedWindowsFolderKeepsNobodyFromSeeingEither) {
     EXPECT_EQ(Shown(), "a");
 }
 
-TEST_F(ShotViewingTest, PropertiesOfADemoOfAnyLengthAreGrouped) {
+TEST_F(ShotViewingTest, PropertiesOfAShotOfAnyLengthAreGrouped) {
     AddFile("empty.tga", "");
     AddFile("k.tga", std::string(1000, 'x'));
     AddFile("small.tga", std::string(999, 'x'));

@@ -100,20 +100,4 @@ std::vector<std::string> ShotsTabTest::Names(const std::string& folder) {
     return os.files.Names(folder.empty() ? state.current.ScreenshotFolder : folder);
 }
 
-Message ShotsTabTest::Confirm(const std::string& text) {
-    return {"Confirm", text, MessageIcon::Question, MessageButtons::YesNo, DefaultButton::Second};
-}
-
-Message ShotsTabTest::Question(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation, MessageButtons::YesNo, DefaultButton::Second};
-}
-
-Message ShotsTabTest::Failure(const std::string& text) {
-    return {"Error", text, MessageIcon::Exclamation};
-}
-
-Message ShotsTabTest::Critical(const std::string& text) {
-    return {"Error", text, MessageIcon::Critical};
-}
-
 }  // namespace zentar

@@ -12,6 +12,7 @@
 #include "core/program_state.h"
 #include "screenshots/shots_tab.h"
 #include "tests/doubles/memory_platform.h"
+#include "tests/unit/expected_boxes.h"
 #include "ui/form_bindings.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
@@ -66,12 +67,6 @@ class ShotsTabTest : public ::testing::Test {
     std::vector<std::string> Names(const std::string& folder = {});
     std::string Contents(const std::string& name) { return os.files.Contents(PathOf(name)); }
     bool Exists(const std::string& name) { return os.files.Exists(PathOf(name)); }
-
-    // Boxes of the kinds that the commands show.
-    static Message Confirm(const std::string& text);
-    static Message Question(const std::string& text);  // about a read-only file
-    static Message Failure(const std::string& text);
-    static Message Critical(const std::string& text);
 
     MemoryPlatform os;
     ProgramState state;

@@ -10,7 +10,6 @@ namespace {
 using ::testing::ElementsAre;
 
 const ColourRef kRed = 0x0000FF;
-const ColourRef kWhite = 0xFFFFFF;
 
 class TranscriptColoursTest : public ChatFrameTest {
   protected:

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/program_info.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
 
@@ -32,7 +33,19 @@ void ExpectWording(const FormTable& table, const std::vector<Wording>& wordings)
     }
 }
 
-TEST(CaptionsTest, OfTheSplash) { EXPECT_STREQ(SplashTable().caption, "Loading Zentar"); }
+TEST(CaptionsTest, OfTheSplash) {
+    EXPECT_STREQ(SplashTable().caption, "Loading Zentar");
+    ExpectWording(SplashTable(),
+                  {{IDC_labLoading, "Zentar", ""}, {IDC_labVersion, "v0.99 BETA", ""}});
+}
+
+TEST(CaptionsTest, TheSplashNamesTheVersionOfTheProgram) {
+    std::string shown;
+    for (const ControlRow& row : SplashTable().controls) {
+        shown.append(shown.empty() ? "" : " ").append(row.caption);
+    }
+    EXPECT_EQ(shown, kVersionLine);
+}
 
 TEST(CaptionsTest, OfTheMainWindow) {
     EXPECT_STREQ(MainWindowTable().caption, "Zentar");
