@@ -22,6 +22,12 @@ DWORD PushStyle(const ControlRow& row) {
     return (row.flags & PressedByEnter) != 0 ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
 }
 
+void MakeDefault(HWND button, bool isDefault) {
+    const auto style = static_cast<DWORD>(GetWindowLongPtrW(button, GWL_STYLE));
+    SendMessageW(button, BM_SETSTYLE,
+                 (isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | (style & BS_MULTILINE), TRUE);
+}
+
 }  // namespace
 
 ControlStyle Win32Button::Style() const {
@@ -35,11 +41,14 @@ void Win32Button::OnCommand(WORD code) {
 }
 
 std::optional<LRESULT> Win32Button::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    // Enter presses the button that has the focus, so that one looks like it.
-    if (message == WM_SETFOCUS) {
-        Send(BM_SETSTYLE, BS_DEFPUSHBUTTON | Wrapping(Row()), TRUE);
-    } else if (message == WM_KILLFOCUS) {
-        Send(BM_SETSTYLE, PushStyle(Row()) | Wrapping(Row()), TRUE);
+    // Enter presses the button that has the focus, so that one looks like it, and no other.
+    if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+        const bool focused = message == WM_SETFOCUS;
+        const HWND otherwise = Host().DefaultButton();
+        MakeDefault(Handle(), focused || otherwise == Handle());
+        if (otherwise != nullptr && otherwise != Handle()) {
+            MakeDefault(otherwise, !focused);
+        }
     }
     return ControlBase::OnMessage(message, wParam, lParam);
 }

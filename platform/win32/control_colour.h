@@ -26,6 +26,8 @@ class TextColours {
     HBRUSH Apply(HWND control, HDC context) const;
 
   private:
+    COLORREF ShownForeground() const;
+
     Colour foreground_ = SystemColour::WindowText;
     Colour background_;
     UniqueBrush brush_;  // of a background that is no colour of the system

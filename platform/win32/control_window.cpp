@@ -2,9 +2,12 @@
 
 #include <utility>
 
+#include "platform/win32/accessible_control.h"
 #include "platform/win32/event_dispatcher.h"
 #include "platform/win32/focus_keeper.h"
+#include "platform/win32/ole_library.h"
 #include "platform/win32/win32_text.h"
+#include "platform/win32/window_text.h"
 
 namespace zentar {
 namespace {
@@ -118,7 +121,12 @@ LRESULT ControlWindow::PassOn(UINT message, WPARAM wParam, LPARAM lParam) const 
     return CallWindowProcW(system_, handle_, message, wParam, lParam);
 }
 
-std::optional<LRESULT> ControlWindow::OnMessage(UINT message, WPARAM /*wParam*/, LPARAM lParam) {
+std::optional<LRESULT> ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // Others ask by this message, too, whom the system answers.
+    if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT) {
+        host_.Ole().Need();
+        return AnswerScreenReader(handle_, row_, wParam);
+    }
     if (!events_.menuRequested) {
         return std::nullopt;
     }
@@ -210,10 +218,7 @@ std::string ControlWindow::Text() const {
     if (handle_ == nullptr) {
         return unmade_.text;
     }
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle_)) + 1, L'\0');
-    const int length = GetWindowTextW(handle_, text.data(), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(length));
-    return Narrow(text);
+    return Narrow(WindowText(handle_));
 }
 
 void ControlWindow::SetFocus() {

@@ -16,6 +16,7 @@ namespace zentar {
 class ControlWindow;
 class EventDispatcher;
 class FocusKeeper;
+class OleLibrary;
 
 // What a control needs of its form.
 class ControlHost {
@@ -23,6 +24,7 @@ class ControlHost {
     virtual ~ControlHost() = default;
     virtual EventDispatcher& Dispatcher() = 0;
     virtual FocusKeeper& Focus() = 0;
+    virtual OleLibrary& Ole() = 0;
     virtual void MoveTop(const ControlRow& row, int twips) = 0;
     virtual void SetTooltipOf(HWND control, const std::string& text) = 0;
     // Makes the window of a control that has none yet, and those of all that stands on the same tab
@@ -30,6 +32,8 @@ class ControlHost {
     virtual void NeedWindow(const ControlRow& row) = 0;
     // A control's menu is about to be asked for; a popup opens where that came from.
     virtual void NoteMenuRequest(bool byKeyboard) = 0;
+    // The button that Enter presses while no button has the focus; null where there is none.
+    virtual HWND DefaultButton() const = 0;
     // The program is at work: no control shows a pointer of its own.
     virtual bool ShowsHourglass() const = 0;
 };

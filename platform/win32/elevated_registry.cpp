@@ -6,6 +6,7 @@
 
 #include "platform/win32/win32_file_error.h"
 #include "platform/win32/win32_handle.h"
+#include "platform/win32/win32_path.h"
 #include "platform/win32/win32_text.h"
 
 namespace zentar {
@@ -63,9 +64,8 @@ class ScriptFile {
 
   private:
     static std::wstring Path() {
-        std::wstring folder(MAX_PATH + 1, L'\0');
-        folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
-        return folder + L"zentar-" + std::to_wstring(GetCurrentProcessId()) + L".reg";
+        return TemporaryFolderPath() + L"zentar-" + std::to_wstring(GetCurrentProcessId()) +
+               L".reg";
     }
     static DWORD BytesOf(const std::wstring& script) {
         return static_cast<DWORD>(script.size() * sizeof(wchar_t));

@@ -33,12 +33,12 @@ struct Kinds {
         for (const FileKind& kind : kinds) {
             const wchar_t* label = texts.emplace_back(Widen(kind.label)).c_str();
             const wchar_t* patterns = texts.emplace_back(Widen(kind.patterns)).c_str();
-            specs.push_back({label, patterns});
+            filters.push_back({label, patterns});
         }
     }
 
     std::vector<std::wstring> texts;
-    std::vector<COMDLG_FILTERSPEC> specs;
+    std::vector<COMDLG_FILTERSPEC> filters;
 };
 
 // That of the first pattern of "*.txt;*.log", without its dot; empty for "*.*".
@@ -87,8 +87,8 @@ void Prepare(IFileDialog& dialog, const FileQuestion& question, const Kinds& kin
              const std::wstring& extension) {
     dialog.SetTitle(Widen(question.title).c_str());
     dialog.SetFileName(Widen(question.name).c_str());
-    if (!kinds.specs.empty()) {
-        dialog.SetFileTypes(static_cast<UINT>(kinds.specs.size()), kinds.specs.data());
+    if (!kinds.filters.empty()) {
+        dialog.SetFileTypes(static_cast<UINT>(kinds.filters.size()), kinds.filters.data());
         dialog.SetDefaultExtension(extension.c_str());
     }
     if (const ComPointer<IShellItem> folder = NearestFolder(question.folder)) {
@@ -110,7 +110,7 @@ std::optional<std::string> ShowFileDialog(const FileQuestion& question, FilePurp
     }
     const Kinds kinds(question.kinds);
     const std::wstring extension =
-        kinds.specs.empty() ? std::wstring() : ExtensionOf(kinds.specs.front().pszSpec);
+        kinds.filters.empty() ? std::wstring() : ExtensionOf(kinds.filters.front().pszSpec);
     Prepare(*dialog, question, kinds, extension);
     const FileNameLimit limit(*dialog, extension.size() + 1);
     const HWND owner = session.forms.DialogOwner();

@@ -8,6 +8,7 @@
 #include "platform/nviewlib/win32/resources.h"
 #include "platform/win32/shell_item.h"
 #include "platform/win32/win32_text.h"
+#include "platform/win32/window_text.h"
 
 namespace zentar {
 namespace {
@@ -35,9 +36,7 @@ std::size_t FolderLength(IFileDialog& dialog) {
 
 void CutTo(HWND box, std::size_t limit) {
     SendMessageW(box, EM_SETLIMITTEXT, limit, 0);
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(box)) + 1, L'\0');
-    text.resize(
-        static_cast<std::size_t>(GetWindowTextW(box, text.data(), static_cast<int>(text.size()))));
+    const std::wstring text = WindowText(box);
     if (text.size() > limit) {
         SetWindowTextW(box, text.substr(0, limit).c_str());
     }

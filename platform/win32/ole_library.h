@@ -1,4 +1,4 @@
-// COM with OLE, which the folder picker and the names for screen readers are made of.
+// COM with OLE, which the folder picker and what screen readers are told are made of.
 #pragma once
 
 namespace zentar {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32/win32_text.h"
+#include "platform/win32/window_class.h"
 
 namespace zentar {
 namespace {
@@ -17,16 +18,11 @@ BOOL CALLBACK TellOne(HWND window, LPARAM /*unused*/) {
 }  // namespace
 
 const wchar_t* PanelClass(HINSTANCE instance) {
-    constexpr const wchar_t* kName = L"ZentarPanel";
     WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
     windowClass.lpfnWndProc = DefWindowProcW;
     windowClass.hInstance = instance;
-    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = kName;
-    // Fails when it is registered, which is as good.
-    RegisterClassExW(&windowClass);
-    return kName;
+    windowClass.lpszClassName = L"ZentarPanel";
+    return RegisterWindowClass(windowClass);
 }
 
 void TellEnclosed(HWND panel) { EnumChildWindows(panel, TellOne, 0); }
@@ -77,7 +73,9 @@ void Win32Frame::Draw(HDC context) const {
         const RECT gap{indent, 0, std::min(indent + text.cx + 2 * margin, border.right - indent),
                        text.cy};
         FillRect(context, &gap, behind);
-        SetTextColor(context, GetSysColor(Enabled() ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+        if (!Enabled()) {
+            SetTextColor(context, GetSysColor(COLOR_GRAYTEXT));
+        }
         RECT room{gap.left + margin, gap.top, gap.right, gap.bottom};
         DrawTextW(context, caption.c_str(), length, &room,
                   DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);

@@ -7,22 +7,18 @@
 #include "platform/win32/bitmap_context.h"
 #include "platform/win32/event_dispatcher.h"
 #include "platform/win32/win32_bitmap.h"
+#include "platform/win32/window_class.h"
 
 namespace zentar {
 namespace {
 
 const wchar_t* BoxClass(HINSTANCE instance) {
-    constexpr const wchar_t* kName = L"ZentarPictureBox";
     WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
     windowClass.style = CS_DBLCLKS | CS_OWNDC;
     windowClass.lpfnWndProc = DefWindowProcW;
     windowClass.hInstance = instance;
-    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = kName;
-    // Fails when it is registered, which is as good.
-    RegisterClassExW(&windowClass);
-    return kName;
+    windowClass.lpszClassName = L"ZentarPictureBox";
+    return RegisterWindowClass(windowClass);
 }
 
 // None when the system lacks the memory.

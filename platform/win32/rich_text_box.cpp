@@ -315,7 +315,7 @@ std::optional<LRESULT> Win32RichTextBox::OnBorder() const {
 }
 
 std::optional<LRESULT> Win32RichTextBox::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!editor_) {
+    if (!editor_ || message == WM_GETOBJECT) {
         return ControlBase::OnMessage(message, wParam, lParam);
     }
     std::optional<LRESULT> answer =

@@ -3,6 +3,8 @@
 #include <uxtheme.h>
 #include <vssym32.h>
 
+#include "platform/win32/theme_handle.h"
+
 namespace zentar {
 namespace {
 
@@ -18,8 +20,8 @@ int StateOf(HWND window) {
 int BorderWidth(HWND window) { return GetSystemMetricsForDpi(SM_CXEDGE, GetDpiForWindow(window)); }
 
 bool DrawStyledBorder(HWND window, COLORREF background) {
-    const HTHEME theme = IsAppThemed() ? OpenThemeData(window, L"Edit") : nullptr;
-    if (theme == nullptr) {
+    const UniqueTheme theme(IsAppThemed() ? OpenThemeData(window, L"Edit") : nullptr);
+    if (!theme) {
         return false;
     }
     RECT edge{};
@@ -30,12 +32,11 @@ bool DrawStyledBorder(HWND window, COLORREF background) {
     InflateRect(&inside, -width, -width);
     const HDC context = GetWindowDC(window);
     ExcludeClipRect(context, inside.left, inside.top, inside.right, inside.bottom);
-    DrawThemeBackground(theme, context, EP_EDITTEXT, StateOf(window), &edge, nullptr);
+    DrawThemeBackground(theme.Get(), context, EP_EDITTEXT, StateOf(window), &edge, nullptr);
     InflateRect(&edge, -1, -1);
     SetDCBrushColor(context, background);
     FillRect(context, &edge, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     ReleaseDC(window, context);
-    CloseThemeData(theme);
     return true;
 }
 

@@ -5,16 +5,19 @@
 namespace zentar {
 namespace {
 
-int ColourIndex(Surface surface) {
-    return surface == Surface::TabPage && IsAppThemed() ? COLOR_WINDOW : COLOR_BTNFACE;
-}
+bool LooksLikeAWindow(Surface surface) { return surface == Surface::TabPage && IsAppThemed(); }
 
 }  // namespace
 
-HBRUSH SurfaceBrush(Surface surface) { return GetSysColorBrush(ColourIndex(surface)); }
+HBRUSH SurfaceBrush(Surface surface) {
+    return GetSysColorBrush(LooksLikeAWindow(surface) ? COLOR_WINDOW : COLOR_BTNFACE);
+}
 
+// The system hands out contexts for black text, which not every colour scheme lets one read.
 HBRUSH PaintOn(Surface surface, HDC context) {
-    SetBkColor(context, GetSysColor(ColourIndex(surface)));
+    const bool window = LooksLikeAWindow(surface);
+    SetBkColor(context, GetSysColor(window ? COLOR_WINDOW : COLOR_BTNFACE));
+    SetTextColor(context, GetSysColor(window ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));
     return SurfaceBrush(surface);
 }
 

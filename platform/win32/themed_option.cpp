@@ -3,17 +3,13 @@
 #include <uxtheme.h>
 #include <vssym32.h>
 
-#include <memory>
 #include <string>
+
+#include "platform/win32/theme_handle.h"
+#include "platform/win32/window_text.h"
 
 namespace zentar {
 namespace {
-
-struct ThemeCloser {
-    using pointer = HTHEME;
-    void operator()(HTHEME theme) const { CloseThemeData(theme); }
-};
-using Theme = std::unique_ptr<void, ThemeCloser>;
 
 int StateOf(HWND button, UINT state) {
     const bool checked = SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
@@ -24,13 +20,6 @@ int StateOf(HWND button, UINT state) {
         return checked ? RBS_CHECKEDHOT : RBS_UNCHECKEDHOT;
     }
     return checked ? RBS_CHECKEDNORMAL : RBS_UNCHECKEDNORMAL;
-}
-
-std::wstring CaptionOf(HWND button) {
-    std::wstring caption(static_cast<std::size_t>(GetWindowTextLengthW(button)) + 1, L'\0');
-    caption.resize(static_cast<std::size_t>(
-        GetWindowTextW(button, caption.data(), static_cast<int>(caption.size()))));
-    return caption;
 }
 
 // Half a digit, as the system itself leaves it between mark and caption.
@@ -52,7 +41,7 @@ bool ShowsFocus(HWND button) {
 
 // A pixel to the right, and a pixel less in the height, is how the system places captions.
 void DrawCaption(HWND button, HDC context, const RECT& room, CaptionColour colour) {
-    const std::wstring caption = CaptionOf(button);
+    const std::wstring caption = WindowText(button);
     const int length = static_cast<int>(caption.size());
     const UINT format = CaptionFormat(button);
     RECT text{};
@@ -76,11 +65,11 @@ void DrawCaption(HWND button, HDC context, const RECT& room, CaptionColour colou
 
 bool DrawThemedOption(HWND button, const NMCUSTOMDRAW& drawing, HBRUSH behind,
                       CaptionColour colour) {
-    const Theme theme(OpenThemeData(button, VSCLASS_BUTTON));
+    const UniqueTheme theme(OpenThemeData(button, VSCLASS_BUTTON));
     const HDC context = drawing.hdc;
     const int state = StateOf(button, drawing.uItemState);
     SIZE mark{};
-    if (!theme || FAILED(GetThemePartSize(theme.get(), context, BP_RADIOBUTTON, state, nullptr,
+    if (!theme || FAILED(GetThemePartSize(theme.Get(), context, BP_RADIOBUTTON, state, nullptr,
                                           TS_DRAW, &mark))) {
         return false;
     }
@@ -89,7 +78,7 @@ bool DrawThemedOption(HWND button, const NMCUSTOMDRAW& drawing, HBRUSH behind,
     const RECT place{room.left, top, room.left + mark.cx, top + mark.cy};
     // The mark, which is not all opaque, may have been drawn already.
     FillRect(context, &drawing.rc, behind);
-    DrawThemeBackground(theme.get(), context, BP_RADIOBUTTON, state, &place, nullptr);
+    DrawThemeBackground(theme.Get(), context, BP_RADIOBUTTON, state, &place, nullptr);
     auto* const font = reinterpret_cast<HFONT>(SendMessageW(button, WM_GETFONT, 0, 0));
     const int saved = SaveDC(context);
     SelectObject(context, font);

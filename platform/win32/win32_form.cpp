@@ -35,9 +35,6 @@ void Win32Form::SetEvents(FormEvents events) { events_ = std::move(events); }
 
 void Win32Form::Show() {
     const bool first = !std::exchange(shown_, true);
-    if (first) {
-        NameControlsOncePainted();
-    }
     if (first && table_.kind == FormKind::Main) {
         // As the user's shortcut says: minimised, maximised or normal.
         ShowWindow(window_.Get(), SW_SHOWDEFAULT);
@@ -61,9 +58,6 @@ void Win32Form::ShowModal() {
     // Later a dialog stays where the user put it.
     if (first || table_.kind == FormKind::FullScreen) {
         MoveWindowTo(FirstPlace(owner));
-    }
-    if (first) {
-        NameControlsOncePainted();
     }
     modal_ = true;
     const EventDispatcher::Modal nested(session_.dispatcher);

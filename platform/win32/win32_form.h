@@ -23,8 +23,6 @@ namespace zentar {
 
 // Posted to a form that has something to do which had to wait.
 inline constexpr UINT kResumeMessage = WM_APP + 1;
-// Beside the timers of the table, whose numbers are larger.
-inline constexpr UINT_PTR kNamingTimer = 1;
 
 struct FormStyle {
     DWORD style = 0;
@@ -71,12 +69,14 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     // ControlHost
     EventDispatcher& Dispatcher() override { return session_.dispatcher; }
     FocusKeeper& Focus() override { return focus_; }
+    OleLibrary& Ole() override { return session_.ole; }
     void MoveTop(const ControlRow& row, int twips) override;
     void SetTooltipOf(HWND control, const std::string& text) override {
         tooltips_->Set(control, text);
     }
     void NeedWindow(const ControlRow& row) override;
     void NoteMenuRequest(bool byKeyboard) override { menuByKeyboard_ = byKeyboard; }
+    HWND DefaultButton() const override;
     bool ShowsHourglass() const override { return session_.pointer == Pointer::Hourglass; }
 
     // Building (win32_form_build.cpp)
@@ -94,11 +94,11 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     ControlPlace PlaceOf(const ControlRow& row);
     // Every control that has its window.
     void ForEachMade(const std::function<void(ControlWindow&)>& act) const;
-    void NameControlsOncePainted();
-    void NameControls();
     void TakeIcons();
 
     // Places and sizes (win32_form_layout.cpp)
+    void UseDpi(int screenDpi);
+    int FittingDpi() const;
     SIZE FrameSize(SIZE client) const;
     SIZE DesignedSize() const;
     SIZE DesignedSizeOnScreen() const;
@@ -114,7 +114,7 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     bool OnProgramKey(Key key, ControlWindow* control);
     bool OnEnter(ControlWindow* control);
     bool SwitchTab(WPARAM key) const;
-    HWND DefaultButton() const;
+    void ShowFocus() const;
     POINT PopupPlace() const;
 
     // Messages (win32_form_messages.cpp)
@@ -166,9 +166,9 @@ class Win32Form : public Form, private FormWindow, private ControlHost {
     std::optional<Fonts> fonts_;
     UniqueIcon smallIcon_;
     UniqueIcon largeIcon_;
-    int dpi_ = 96;
+    int screenDpi_ = 96;
+    int dpi_ = 96;        // of what stands in the window
     bool shown_ = false;  // has been, once
-    bool named_ = false;  // the controls are, for screen readers
     bool modal_ = false;
     bool activationWaits_ = false;
     bool closeWaits_ = false;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/win32/accessible_name.h"
 #include "platform/win32/buttons.h"
 #include "platform/win32/colour_button.h"
 #include "platform/win32/image_box.h"
@@ -17,22 +16,18 @@
 #include "platform/win32/text_box.h"
 #include "platform/win32/win32_form.h"
 #include "platform/win32/win32_text.h"
+#include "platform/win32/window_class.h"
 
 namespace zentar {
 namespace {
 
 const wchar_t* FormClass(HINSTANCE instance, WNDPROC procedure) {
-    constexpr const wchar_t* kName = L"ZentarForm";
     WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
     windowClass.lpfnWndProc = procedure;
     windowClass.hInstance = instance;
-    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-    windowClass.lpszClassName = kName;
-    // Fails when it is registered, which is as good.
-    RegisterClassExW(&windowClass);
-    return kName;
+    windowClass.lpszClassName = L"ZentarForm";
+    return RegisterWindowClass(windowClass);
 }
 
 }  // namespace
@@ -56,7 +51,7 @@ FormStyle FormStyle::Of(FormKind kind) {
 // Has its size and, unless it is a dialog that comes over some other window, its place from the
 // start: each later change of a window costs time.
 void Win32Form::CreateFormWindow() {
-    dpi_ = static_cast<int>(GetDpiForSystem());
+    UseDpi(static_cast<int>(GetDpiForSystem()));
     const RECT place = FirstPlace(nullptr);
     window_.Reset(CreateWindowExW(style_.exStyle, FormClass(session_.instance, Procedure),
                                   Widen(table_.caption).c_str(), style_.style, place.left,
@@ -64,8 +59,8 @@ void Win32Form::CreateFormWindow() {
                                   nullptr, menus_.TakeBar(), session_.instance, nullptr));
     SetWindowLongPtrW(window_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     // The monitor may have got another resolution since the user logged on.
-    if (const auto dpi = static_cast<int>(GetDpiForWindow(window_.Get())); dpi != dpi_) {
-        dpi_ = dpi;
+    if (const auto dpi = static_cast<int>(GetDpiForWindow(window_.Get())); dpi != screenDpi_) {
+        UseDpi(dpi);
         MoveWindowTo(FirstPlace(nullptr));
     }
 }
@@ -135,9 +130,6 @@ void Win32Form::MakeWindow(ControlWindow& control) {
 void Win32Form::SetUp(ControlWindow& control) const {
     control.OnDpi(dpi_);
     control.OnLayout();
-    if (named_) {
-        SetAccessibleName(control.Handle(), control.Row().name);
-    }
 }
 
 ControlPlace Win32Form::PlaceOf(const ControlRow& row) {
@@ -197,28 +189,13 @@ std::unique_ptr<ControlWindow> Win32Form::MakeControl(const ControlPlace& place)
     std::abort();
 }
 
-// The service behind the names takes longer to load than the whole window; nobody is to wait for
-// it.
-void Win32Form::NameControlsOncePainted() {
-    SetTimer(window_.Get(), kNamingTimer, USER_TIMER_MINIMUM, nullptr);
-}
-
-void Win32Form::NameControls() {
-    KillTimer(window_.Get(), kNamingTimer);
-    session_.ole.Need();
-    named_ = true;
-    ForEachMade([](const ControlWindow& control) {
-        SetAccessibleName(control.Handle(), control.Row().name);
-    });
-}
-
 void Win32Form::TakeIcons() {
     if (table_.kind == FormKind::Splash) {
         // Stands neither in the task bar nor has it a caption.
         return;
     }
     const auto load = [this](int metric) {
-        const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi_));
+        const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(screenDpi_));
         return UniqueIcon(static_cast<HICON>(LoadImageW(session_.instance, MAKEINTRESOURCEW(1),
                                                         IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
     };

@@ -72,12 +72,15 @@ bool Win32Form::OnKeyDown(const MSG& message) {
     }
     switch (key) {
         case VK_TAB:
+            ShowFocus();
             focus_.MoveNext(IsDown(VK_SHIFT));
             return true;
         case VK_RETURN:
             return repeated || OnEnter(control);
         case VK_ESCAPE:
-            if (table_.kind == FormKind::Dialog || table_.kind == FormKind::Companion) {
+            // One that is held down closes one window, not the one below as well.
+            if (!repeated &&
+                (table_.kind == FormKind::Dialog || table_.kind == FormKind::Companion)) {
                 PostMessageW(window_.Get(), WM_CLOSE, 0, 0);
             }
             return true;
@@ -120,6 +123,12 @@ HWND Win32Form::DefaultButton() const {
     return nullptr;
 }
 
+// Who started the program with the mouse sees no focus until then. The system shows it for the keys
+// that it moves the focus by itself.
+void Win32Form::ShowFocus() const {
+    SendMessageW(window_.Get(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+}
+
 bool Win32Form::SwitchTab(WPARAM key) const {
     if (key != VK_TAB && key != VK_NEXT && key != VK_PRIOR) {
         return false;
@@ -130,6 +139,7 @@ bool Win32Form::SwitchTab(WPARAM key) const {
     if (tab == controls_.end()) {
         return false;
     }
+    ShowFocus();
     const bool backwards = key == VK_PRIOR || (key == VK_TAB && IsDown(VK_SHIFT));
     dynamic_cast<Win32TabControl&>((*tab)->AsControl()).Step(backwards);
     return true;

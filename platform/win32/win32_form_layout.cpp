@@ -39,8 +39,26 @@ RECT InTheMiddle(SIZE size, const RECT& over, const RECT& area) {
 SIZE Win32Form::FrameSize(SIZE client) const {
     RECT rect{0, 0, client.cx, client.cy};
     AdjustWindowRectExForDpi(&rect, style_.style, menus_.HasBar(), style_.exStyle,
-                             static_cast<UINT>(dpi_));
+                             static_cast<UINT>(screenDpi_));
     return {Width(rect), Height(rect)};
+}
+
+void Win32Form::UseDpi(int screenDpi) {
+    screenDpi_ = screenDpi;
+    dpi_ = FittingDpi();
+}
+
+// On a small screen of a high resolution the controls are smaller than elsewhere, so that all of
+// them can be seen and reached, but never smaller than designed.
+int Win32Form::FittingDpi() const {
+    const bool outer = table_.outerSize != Size{};
+    const Size designed = outer ? table_.outerSize : table_.clientSize;
+    const SIZE frame = outer ? SIZE{} : FrameSize({0, 0});
+    const RECT area = WorkArea(window_.Get());
+    const LONG across = (Width(area) - frame.cx) * kDesignDpi / std::max(designed.width, 1);
+    const LONG down = (Height(area) - frame.cy) * kDesignDpi / std::max(designed.height, 1);
+    const auto most = static_cast<int>(std::min(across, down));
+    return std::min(screenDpi_, std::max(most, kDesignDpi));
 }
 
 SIZE Win32Form::DesignedSize() const {

@@ -88,7 +88,7 @@ std::optional<LRESULT> Win32Form::OnDefaultId(WPARAM /*wParam*/, LPARAM /*lParam
 }
 
 std::optional<LRESULT> Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
-    dpi_ = HIWORD(wParam);
+    UseDpi(HIWORD(wParam));
     ApplyDpi();
     if (table_.kind == FormKind::FullScreen) {
         // A screen has one size, whatever its dpi.
@@ -181,10 +181,6 @@ std::optional<LRESULT> Win32Form::OnSystemColours(WPARAM /*wParam*/, LPARAM /*lP
 }
 
 std::optional<LRESULT> Win32Form::OnTimer(WPARAM wParam, LPARAM /*lParam*/) {
-    if (wParam == kNamingTimer) {
-        NameControls();
-        return 0;
-    }
     const auto at = std::find_if(timers_.begin(), timers_.end(), [wParam](const auto& timer) {
         return static_cast<WPARAM>(timer->Id()) == wParam;
     });

@@ -124,6 +124,12 @@ bool MayBeCreated(std::wstring_view nativePath) {
     return legal && !IsDeviceName(name);
 }
 
+std::wstring TemporaryFolderPath() {
+    std::wstring folder(MAX_PATH + 1, L'\0');
+    folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
+    return folder;
+}
+
 bool OnSameRoot(std::wstring_view one, std::wstring_view other) {
     return SameText(one.substr(0, RootLength(one)), other.substr(0, RootLength(other)));
 }

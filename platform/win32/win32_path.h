@@ -23,6 +23,9 @@ std::wstring PlainPath(const std::wstring& nativePath);
 // own among them, could neither open nor delete such a file.
 bool MayBeCreated(std::wstring_view nativePath);
 
+// Where temporary files go, with a backslash at its end.
+std::wstring TemporaryFolderPath();
+
 // Whether two native paths lie on one drive or network share.
 bool OnSameRoot(std::wstring_view one, std::wstring_view other);
 

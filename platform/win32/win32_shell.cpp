@@ -93,9 +93,13 @@ std::string Win32Shell::ProgramFolder() {
     std::wstring_view folder(path);
     folder = folder.substr(0, folder.rfind(L'\\') + 1);
     // A program may have been started by the system's own form of its path.
-    constexpr std::wstring_view kNativePrefix = LR"(\\?\)";
-    if (folder.starts_with(kNativePrefix)) {
-        folder.remove_prefix(kNativePrefix.size());
+    constexpr std::wstring_view kShare = LR"(\\?\UNC)";
+    constexpr std::wstring_view kDrive = LR"(\\?\)";
+    if (folder.starts_with(kShare)) {
+        return "\\" + Narrow(WithoutLastSeparator(folder.substr(kShare.size())));
+    }
+    if (folder.starts_with(kDrive)) {
+        folder.remove_prefix(kDrive.size());
     }
     return Narrow(WithoutLastSeparator(folder));
 }
@@ -107,9 +111,7 @@ std::string Win32Shell::WindowsFolder() {
 }
 
 std::string Win32Shell::TemporaryFolder() {
-    std::wstring folder(MAX_PATH + 1, L'\0');
-    folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
-    return Narrow(WithoutLastSeparator(folder));
+    return Narrow(WithoutLastSeparator(TemporaryFolderPath()));
 }
 
 std::optional<std::string> Win32Shell::PickFolder(const std::string& title) {

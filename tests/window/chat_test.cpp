@@ -1,13 +1,13 @@
 // Scanning for names and making transcripts.
 #include <gtest/gtest.h>
 
+#include "platform/win32/win32_text.h"
 #include "tests/window/colour_dialog.h"
 #include "tests/window/commands_fixture.h"
 #include "tests/window/file_dialog.h"
 #include "tests/window/notepad.h"
 #include "tests/window/screen_picture.h"
 #include "tests/window/standin_browser.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"

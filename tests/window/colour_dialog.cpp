@@ -3,7 +3,6 @@
 #include <colordlg.h>
 
 #include <array>
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 
@@ -45,15 +44,6 @@ HWND WaitForColourDialog(DWORD process) {
         throw std::runtime_error("never saw the dialog for a colour");
     }
     return dialog;
-}
-
-COLORREF ColourShown(HWND colourDialog) {
-    COLORREF colour = 0;
-    for (const Part& part : kParts) {
-        const std::string number = TextOf(GetDlgItem(colourDialog, part.box));
-        colour |= static_cast<COLORREF>(std::atoi(number.c_str())) << part.shift;
-    }
-    return colour;
 }
 
 void ChooseColour(HWND colourDialog, COLORREF colour) {

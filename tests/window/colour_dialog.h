@@ -9,9 +9,6 @@ namespace zentar::window_tests {
 
 HWND WaitForColourDialog(DWORD process);
 
-// The colour that it would give now.
-COLORREF ColourShown(HWND colourDialog);
-
 // Mixes a colour and presses OK; waits until the dialog has gone.
 void ChooseColour(HWND colourDialog, COLORREF colour);
 void CancelColourDialog(HWND colourDialog);

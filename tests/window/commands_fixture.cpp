@@ -1,17 +1,6 @@
 #include "tests/window/commands_fixture.h"
 
 namespace zentar::window_tests {
-namespace {
-
-BoxContents ErrorBox(const Lines& lines, BoxIcon icon) {
-    return {.title = "Error",
-            .text = BoxLines(lines),
-            .icon = icon,
-            .buttons = {IDOK},
-            .defaultButton = IDOK};
-}
-
-}  // namespace
 
 BoxContents Question(const Lines& lines) {
     return {.title = "Confirm",
@@ -29,9 +18,13 @@ BoxContents FailureWithQuestion(const Lines& lines) {
             .defaultButton = IDNO};
 }
 
-BoxContents Failure(const Lines& lines) { return ErrorBox(lines, BoxIcon::Exclamation); }
-
-BoxContents CriticalFailure(const Lines& lines) { return ErrorBox(lines, BoxIcon::Critical); }
+BoxContents Failure(const Lines& lines) {
+    return {.title = "Error",
+            .text = BoxLines(lines),
+            .icon = BoxIcon::Exclamation,
+            .buttons = {IDOK},
+            .defaultButton = IDOK};
+}
 
 BoxContents Done(const Lines& lines, BoxIcon icon) {
     return {.title = "Done",

@@ -18,7 +18,6 @@ using Lines = std::vector<std::string>;
 BoxContents Question(const Lines& lines);
 BoxContents FailureWithQuestion(const Lines& lines);
 BoxContents Failure(const Lines& lines);
-BoxContents CriticalFailure(const Lines& lines);
 BoxContents Done(const Lines& lines, BoxIcon icon = BoxIcon::Information);
 
 void MakeReadOnly(const std::filesystem::path& file);

@@ -1,10 +1,10 @@
 // Deleting, renaming, copying, moving and installing demos.
 #include <gtest/gtest.h>
 
+#include "platform/win32/win32_text.h"
 #include "samples/demo_maker.h"
 #include "tests/window/commands_fixture.h"
 #include "tests/window/second_drive.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -20,8 +20,10 @@ class Commands : public CommandsTest {
     ZentarDriver& Open(const IniLines& settings = {}) { return CommandsTest::Open(1, settings); }
 
     fs::path Demos() const { return home_.Games() / "Quake2" / "baseq2" / "demos"; }
-    bool IsHere(const std::string& demo) const { return fs::exists(Demos() / Wide(demo + ".dm2")); }
-    fs::path There(const std::string& demo) const { return home_.Remote() / Wide(demo + ".dm2"); }
+    bool IsHere(const std::string& demo) const {
+        return fs::exists(Demos() / Widen(demo + ".dm2"));
+    }
+    fs::path There(const std::string& demo) const { return home_.Remote() / Widen(demo + ".dm2"); }
 };
 
 TEST_F(Commands, DeleteAsksAndSelectsTheNextDemoIfSoPreferred) {
@@ -213,7 +215,7 @@ class Installer : public Commands {
         fs::create_directories(Unzipped());
         samples::DemoContents contents;
         contents.mod = mod;
-        WriteBytes(Unzipped() / Wide(name), samples::MakeDemo(kind, contents));
+        WriteBytes(Unzipped() / Widen(name), samples::MakeDemo(kind, contents));
     }
 };
 
@@ -228,7 +230,7 @@ TEST_F(Installer, MovesDemosIntoTheirMods) {
                  "not have the required Quake2 mod that is needed to", "play them back."},
                 BoxIcon::Exclamation),
            IDOK);
-    EXPECT_TRUE(fs::exists(home_.Games() / "Quake2" / "CTF" / "demos" / Wide("für CTF.dm2")));
+    EXPECT_TRUE(fs::exists(home_.Games() / "Quake2" / "CTF" / "demos" / Widen("für CTF.dm2")));
     EXPECT_TRUE(IsHere("base"));
     EXPECT_TRUE(fs::exists(Unzipped() / "lost.dm2"));
     EXPECT_FALSE(fs::exists(Unzipped() / "base.dm2"));

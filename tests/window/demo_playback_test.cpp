@@ -1,9 +1,9 @@
 // Playing demos in stand-in games, and searching the web for their maps.
 #include <gtest/gtest.h>
 
+#include "platform/win32/win32_text.h"
 #include "tests/window/game_log.h"
 #include "tests/window/standin_browser.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -235,7 +235,7 @@ TEST_F(Playback, TheWebIsSearchedForTheMap) {
             Press(VK_DOWN);
         }
         Press(VK_RETURN);
-        Eventually([popup] { return IsWindow(popup) == FALSE || !IsWindowVisible(popup); });
+        WaitUntilGone(popup);
         EXPECT_SOON(browser.Opened(),
                     Lines(searches.begin(), searches.begin() + static_cast<int>(entry) + 1));
         zentar.Settle();

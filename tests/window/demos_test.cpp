@@ -1,7 +1,7 @@
 // The Demos tab: selecting, filtering, and the popup menu.
 #include <gtest/gtest.h>
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -79,7 +79,7 @@ TEST_F(Demos, AnyNameThatWindowsCanHoldCanBeSelected) {
     // The system's own form of a path may be longer than others.
     const std::wstring prefix = LR"(\\?\)" + folder.wstring() + L"\\";
     for (const std::string& name : names) {
-        WriteBytes(prefix + Wide(name) + L".dm2", demo);
+        WriteBytes(prefix + Widen(name) + L".dm2", demo);
     }
     const ZentarDriver& zentar = Open();
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 13 of 13.");
@@ -89,7 +89,7 @@ TEST_F(Demos, AnyNameThatWindowsCanHoldCanBeSelected) {
         zentar.ClickItem(IDC_lstDemos, name);
         EXPECT_SOON(zentar.Text(IDC_labDemoName), "Name: The Edge") << name;
     }
-    DeleteFileW((prefix + Wide(names.back()) + L".dm2").c_str());
+    DeleteFileW((prefix + Widen(names.back()) + L".dm2").c_str());
 }
 
 TEST_F(Demos, EachQuake3GenerationIsTold) {

@@ -1,7 +1,5 @@
-// Preferences, About, and the keys of the main window.
+// Preferences, About and tooltips.
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
@@ -116,6 +114,20 @@ TEST_F(Dialogs, EscapeClosesThePreferences) {
     EXPECT_SOON(IsWindowEnabled(zentar_->Main()) != FALSE, true);
 }
 
+TEST_F(Dialogs, EscapeThatIsHeldDownClosesOneWindowOnly) {
+    const HWND preferences = OpenPreferences();
+    Click(CentreOf(FindControl(preferences, IDC_cmdRemote)));
+    const HWND picker = zentar_->WaitForPicker("Please specify a folder to be the Remote Folder:");
+    HoldKey(VK_ESCAPE);
+    EXPECT_TRUE(Eventually([picker] { return IsWindow(picker) == FALSE; }));
+    EXPECT_SOON(GetForegroundWindow() == preferences, true);
+    HoldKey(VK_ESCAPE);
+    ReleaseKey(VK_ESCAPE);
+    EXPECT_NE(IsWindowVisible(preferences), FALSE);
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(Eventually([preferences] { return IsWindowVisible(preferences) == FALSE; }));
+}
+
 TEST_F(Dialogs, ThePreferencesKeepTheMainWindowWaiting) {
     OpenPreferences();
     EXPECT_EQ(IsWindowEnabled(zentar_->Main()), FALSE);
@@ -132,43 +144,6 @@ TEST_F(Dialogs, AboutNamesTheVersion) {
     EXPECT_EQ(about.buttons, std::vector<int>{IDOK});
     AnswerBox(box, IDOK);
     EXPECT_FALSE(zentar.HasBox());
-}
-
-TEST_F(Dialogs, F1DoesNoHarm) {
-    home_.WriteIni();
-    ZentarDriver zentar(home_);
-    zentar.PressKey(VK_F1);
-    EXPECT_FALSE(zentar.HasBox());
-    EXPECT_EQ(zentar.Close(), 0);
-}
-
-TEST_F(Dialogs, TabWalksThroughTheMainWindowInReadingOrder) {
-    home_.WriteIni({"AutoShowAll=0", "DemosAll=0", "DemosFilter="});
-    const ZentarDriver zentar(home_);
-    zentar.ShowTab(kDemosTab);
-    SetForegroundWindow(zentar.Main());
-    std::vector<int> order;
-    for (int step = 0; step < 9; ++step) {
-        const HWND before = zentar.Focused();
-        Press(VK_TAB);
-        Eventually([&] { return zentar.Focused() != before; });
-        order.push_back(GetDlgCtrlID(zentar.Focused()));
-    }
-    const std::vector<int> expected = {IDC_lstDemos,      IDC_chkShowAllDemos, IDC_optTextYes,
-                                       IDC_txtDemoFilter, IDC_cmdFilter,       IDC_lstDemoFilter,
-                                       IDC_optGameQuake2, IDC_lstMods,         IDC_SSTab1};
-    EXPECT_EQ(order, expected);
-}
-
-TEST_F(Dialogs, TheKeyboardOpensThePopupMenu) {
-    home_.WriteIni();
-    const ZentarDriver zentar(home_);
-    zentar.ShowTab(kDemosTab);
-    zentar.ClickItem(IDC_lstDemos, "campaign");
-    PressWith(VK_SHIFT, VK_F10);
-    const HWND popup = zentar.WaitForWindow("#32768", "");
-    EXPECT_TRUE(zentar.PopupLine(popup, IDM_mnuDemosRefresh).enabled);
-    zentar.ClosePopup(popup);
 }
 
 TEST_F(Dialogs, ATooltipExplainsAControl) {

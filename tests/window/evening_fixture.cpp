@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/win32/win32_text.h"
 #include "samples/demo_maker.h"
 #include "tests/window/game_log.h"
 #include "tests/window/image_library_file.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
+#include "tests/window/wallpaper.h"
 #include "tests/window/windows_of.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
@@ -19,14 +20,6 @@ namespace fs = std::filesystem;
 
 const std::string kShots = "Games/Quake2/baseq2/scrnshot/";
 const std::string kDemos = "Games/Quake2/baseq2/demos/";
-
-std::wstring WallpaperOfTheSystem() {
-    wchar_t path[MAX_PATH] = {};
-    DWORD bytes = sizeof path;
-    RegGetValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"Wallpaper", RRF_RT_REG_SZ, nullptr,
-                 path, &bytes);
-    return path;
-}
 
 bool IsCommand(const ControlRow& row) {
     return row.kind == ControlKind::Button || row.kind == ControlKind::ColourButton ||
@@ -53,7 +46,7 @@ Lines OwnFilesInWindows() {
 
 }  // namespace
 
-EveningTest::EveningTest() : wallpaperBefore_(WallpaperOfTheSystem()) {
+EveningTest::EveningTest() : wallpaperBefore_(CurrentWallpaper()) {
     for (const char* game : {"Quake", "Quake2", "Quake3"}) {
         SetGameSeconds(home_.Games() / game, 0);
     }
@@ -71,7 +64,7 @@ EveningTest::~EveningTest() {
 }
 
 fs::path EveningTest::At(const std::string& path) const {
-    return home_.Program().parent_path() / Wide(path);
+    return home_.Program().parent_path() / Widen(path);
 }
 
 std::string EveningTest::Name(const std::string& game) const {
@@ -181,7 +174,7 @@ void EveningTest::Rename(const std::string& title, const std::string& name) {
     const HWND box = zentar_->WaitForWindow("ZentarForm", title);
     Type(name);
     Press(VK_RETURN);
-    Eventually([box] { return IsWindow(box) == FALSE || IsWindowVisible(box) == FALSE; });
+    WaitUntilGone(box);
     zentar_->Settle();
 }
 
@@ -204,7 +197,12 @@ void EveningTest::GoHome() {
     EXPECT_SOON(zentar_->Checked(IDC_optGameQuake2), true);
     PickFromBar('P', 'X', IDM_mnuProgramExit);
     EXPECT_EQ(zentar_->WaitForExit(), 0);
-    expected_["Program/zentar.ini"] = WholeIni();
+    expected_["Program/zentar.ini"] =
+        home_.WholeIni({"Expert=" + std::string(expert_ ? "1" : "0"),
+                        "BackupAll=" + std::string(pass_ == 1 ? "1" : "0"), "DemosFilter=q2dm3",
+                        "TranscriptGameplay=" + std::string(pass_ == 1 ? "1" : "0"),
+                        "Q3TextText=" + FolderText(home_.Program()) + "data\\q3text\\evening " +
+                            Number() + ".ini"});
     ExpectFiles();
     ExpectAllUsed();
 }
@@ -292,33 +290,6 @@ void EveningTest::ExpectFiles() {
     const Tree found = WithoutGameLogs(ReadTree(home_.Program().parent_path()));
     EXPECT_EQ(Differences(WithoutGameLogs(expected_), found), Lines{});
     EXPECT_EQ(OwnFilesInWindows(), Lines{});
-}
-
-std::string EveningTest::WholeIni() const {
-    std::string text =
-        "// Zentar v0.99 BETA Settings File.\r\n"
-        "// Changes are NOT recommended!\r\n"
-        "// ----------------------------\r\n"
-        "Virgin=0\r\nGame=Quake2\r\n";
-    text += "Q1Folder=" + FolderText(home_.Games() / "Quake") + "\r\n";
-    text += "Q2Folder=" + FolderText(home_.Games() / "Quake2") + "\r\n";
-    text += "Q3Folder=" + FolderText(home_.Games() / "Quake3") + "\r\n";
-    text += "CurMod1=id1\r\nCurMod2=baseq2\r\nCurMod3=baseq3\r\n";
-    text += "Remote=" + FolderText(home_.Remote()) + "\r\n";
-    text += "Expert=" + std::to_string(expert_ ? 1 : 0) + "\r\n";
-    text += "Preview=0\r\nAutoShowAll=1\r\nAutoNextShot=0\r\nAutoNextDemo=0\r\n";
-    text += "BackupAll=" + std::string(pass_ == 1 ? "1" : "0") + "\r\n";
-    text += "DemosAll=1\r\nDemosText=True\r\nDemosFilter=q2dm3\r\n";
-    text += "ScanWarn=0\r\nTranscriptHTML=1\r\n";
-    text += "TranscriptGameplay=" + std::string(pass_ == 1 ? "1" : "0") + "\r\n";
-    text += "TranscriptMessages=-1\r\nTranscriptBackground=-1\r\n";
-    for (int box = 1; box <= 24; ++box) {
-        const std::string player = "Player" + std::to_string(box);
-        text += player + "Name=\r\n" + player + "Colour=\r\n";
-    }
-    return text + "Q3TextType=0\r\nQ3TextKeyfox=0\r\nQ3TextOSP=0\r\nQ3TextText=" +
-           FolderText(home_.Program()) + "data\\q3text\\evening " + Number() + ".ini\r\n" +
-           "// ===================================================================\r\n";
 }
 
 }  // namespace zentar::window_tests

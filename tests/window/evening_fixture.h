@@ -37,7 +37,6 @@ class EveningTest : public ShotsWindowTest {
     void Restock();
     void ExpectAllUsed();
     void ExpectFiles();
-    std::string WholeIni() const;
 
     // Does it, and notes that it was done.
     void ClickOn(int control);

@@ -1,8 +1,8 @@
 // An evening: the Shots and the Demos tab.
+#include "platform/win32/win32_text.h"
 #include "tests/window/evening_fixture.h"
 #include "tests/window/game_log.h"
 #include "tests/window/image_library_file.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -205,7 +205,7 @@ void EveningTest::SearchTheWeb(const std::string& demo) {
         }
         ++down;
         Press(VK_RETURN);
-        Eventually([popup] { return IsWindow(popup) == FALSE || !IsWindowVisible(popup); });
+        WaitUntilGone(popup);
         used_.insert(entry);
         EXPECT_SOON(browser_.Opened().size(), before + 1);
         zentar_->Settle();

@@ -1,9 +1,9 @@
 // An evening: the Misc, Q3 Text and First Aid tabs.
 #include "firstaid/symptoms.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/evening_fixture.h"
 #include "tests/window/file_dialog.h"
 #include "tests/window/notepad.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -94,7 +94,7 @@ void EveningTest::BackUpAndEdit() {
     EXPECT_SOON(ReadBytes(At(kConfig)) == expected_.at(kConfig), true);
     zentar_->Settle();
     ClickOn(IDC_cmdQ3ConfigEdit);
-    CloseNotepad("q3config");
+    EXPECT_NE(CloseNotepad("q3config").title, "");
     if (pass_ == 1) {
         expected_[kConfig] = Converted(expected_.at(kConfig));
     }
@@ -159,7 +159,7 @@ void EveningTest::Transcribe() {
     zentar_->Settle();
     ClickOn(IDC_chkTranscriptHTML);
     ClickOn(IDC_cmdCreateTranscript);
-    CloseNotepad("(transcript)");
+    EXPECT_NE(CloseNotepad("(transcript)").title, "");
     TranscriptIs(false, gameMessages);
     zentar_->Settle();
     ClickOn(IDC_chkTranscriptHTML);
@@ -231,7 +231,7 @@ void EveningTest::Remedy(std::size_t symptom) {
         case Symptom::SettingsNotSaved:
             if (pass_ == 2) {
                 AnswerNext("Error", IDYES);
-                CloseNotepad("autoexec");
+                EXPECT_NE(CloseNotepad("autoexec").title, "");
             }
             break;
         case Symptom::MousewheelDead: {

@@ -1,6 +1,6 @@
 #include "tests/window/evening_tree.h"
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/zentar_home.h"
 
 namespace zentar::window_tests {

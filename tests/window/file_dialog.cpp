@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <stdexcept>
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -16,16 +16,8 @@ namespace zentar::window_tests {
 
 namespace {
 
-constexpr char kDialogClass[] = "#32770";
 constexpr int kNameBox = edt1;
 constexpr int kKindBox = cmb1;
-
-HWND Found(HWND window, const std::string& what) {
-    if (window == nullptr) {
-        throw std::runtime_error("never saw " + what);
-    }
-    return window;
-}
 
 std::string KindAt(HWND combo, LRESULT index) {
     const LRESULT length = Send(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index));
@@ -118,11 +110,6 @@ std::vector<std::string> KindsIn(HWND fileDialog) {
         kinds.push_back(KindAt(combo, index));
     }
     return kinds;
-}
-
-std::string KindShown(HWND fileDialog) {
-    const HWND combo = GetDlgItem(fileDialog, kKindBox);
-    return KindAt(combo, Send(combo, CB_GETCURSEL));
 }
 
 std::vector<std::string> FilesListed(HWND fileDialog) {

@@ -15,9 +15,8 @@ HWND WaitForFileDialog(DWORD process, const std::string& title);
 
 // What the dialog offers as the file's name.
 std::string OfferedName(HWND fileDialog);
-// The kinds of files, in their order, and the one that is shown.
+// The kinds of files, in their order.
 std::vector<std::string> KindsIn(HWND fileDialog);
-std::string KindShown(HWND fileDialog);
 // Files and folders in the folder that the dialog shows, sorted. They come a moment after the
 // dialog does.
 std::vector<std::string> FilesListed(HWND fileDialog);

@@ -1,6 +1,8 @@
 // What the user can see of the windows at the screen's resolution and at other window sizes.
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -9,6 +11,16 @@
 
 namespace zentar::window_tests {
 namespace {
+
+// In dots per inch: those that Windows offers of its own accord, from the screen's own on. To a
+// lower one the marks of check boxes and option buttons do not shrink before the user logs on anew.
+// The last is too high for the main window to fit on any usual screen in full size.
+std::vector<int> Resolutions() {
+    std::vector<int> resolutions = {96, 120, 144, 192, 384};
+    const auto own = static_cast<int>(GetDpiForSystem());
+    std::erase_if(resolutions, [own](int dpi) { return dpi < own; });
+    return resolutions;
+}
 
 class Layout : public testing::Test {
   protected:
@@ -41,6 +53,76 @@ class Layout : public testing::Test {
         }
     }
 
+    static RECT InsideOf(HWND window) {
+        RECT client{};
+        GetClientRect(window, &client);
+        MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&client), 2);
+        return client;
+    }
+
+    static std::string NameOf(HWND control) {
+        return ClassOf(control) + " " + std::to_string(GetDlgCtrlID(control)) + " \"" +
+               TextOf(control) + "\"";
+    }
+
+    struct Place {
+        HWND control;
+        HWND parent;
+        RECT area;
+    };
+
+    static std::vector<Place> VisiblePlaces(HWND window) {
+        std::vector<Place> places;
+        for (const HWND control : Descendants(window)) {
+            if (IsWindowVisible(control)) {
+                places.push_back({control, GetParent(control), AreaOf(control)});
+            }
+        }
+        return places;
+    }
+
+    // Every control stands inside its parent, and beside the others in it.
+    static void ExpectEachInItsPlace(HWND window) {
+        const std::vector<Place> places = VisiblePlaces(window);
+        for (auto one = places.begin(); one != places.end(); ++one) {
+            const RECT around = InsideOf(one->parent);
+            EXPECT_TRUE(one->area.left >= around.left && one->area.top >= around.top &&
+                        one->area.right <= around.right && one->area.bottom <= around.bottom)
+                << NameOf(one->control) << " sticks out";
+            for (auto other = one + 1; other != places.end(); ++other) {
+                RECT common{};
+                EXPECT_FALSE(one->parent == other->parent &&
+                             IntersectRect(&common, &one->area, &other->area))
+                    << NameOf(one->control) << " covers " << NameOf(other->control);
+            }
+        }
+    }
+
+    void ExpectTidyTabs() const {
+        for (int tab = 0; tab < 5; ++tab) {
+            SCOPED_TRACE("tab " + std::to_string(tab));
+            zentar_->ShowTab(tab);
+            ExpectWholeCaptions(zentar_->Main());
+            ExpectEachInItsPlace(zentar_->Main());
+        }
+    }
+
+    void ExpectTidyAtEveryResolution(HWND window) const {
+        for (const int dpi : Resolutions()) {
+            SCOPED_TRACE(std::to_string(dpi) + " dpi");
+            zentar_->ChangeDpi(window, dpi);
+            zentar_->Settle();
+            ExpectWholeCaptions(window);
+            ExpectEachInItsPlace(window);
+        }
+    }
+
+    void Maximise() const {
+        ShowWindow(zentar_->Main(), SW_MAXIMIZE);
+        EXPECT_SOON(IsZoomed(zentar_->Main()) != FALSE, true);
+        zentar_->Settle();
+    }
+
     ZentarHome home_;
     std::unique_ptr<ZentarDriver> zentar_;
 };
@@ -62,6 +144,47 @@ TEST_F(Layout, NoCaptionOfThePreferencesIsCut) {
     const HWND preferences = zentar_->WaitForWindow("ZentarForm", "Preferences");
     zentar_->Settle();
     ExpectWholeCaptions(preferences);
+}
+
+TEST_F(Layout, EveryControlOfTheTabsHasItsPlaceAtEveryResolution) {
+    for (const int dpi : Resolutions()) {
+        SCOPED_TRACE(std::to_string(dpi) + " dpi");
+        zentar_->ChangeDpi(zentar_->Main(), dpi);
+        zentar_->Settle();
+        ExpectTidyTabs();
+    }
+}
+
+TEST_F(Layout, EveryControlOfTheTabsHasItsPlaceInALargeWindow) {
+    Maximise();
+    ExpectTidyTabs();
+}
+
+TEST_F(Layout, EveryControlOfTheOtherWindowsHasItsPlaceAtEveryResolution) {
+    zentar_->PressKey(VK_F1);
+    const HWND help = zentar_->WaitForWindow("ZentarForm", "Zentar Help");
+    zentar_->Settle();
+    ExpectTidyAtEveryResolution(help);
+    Press(VK_ESCAPE);
+    Eventually([help] { return IsWindowVisible(help) == FALSE; });
+    zentar_->OpenMenuEntry('P', 'P');
+    const HWND preferences = zentar_->WaitForWindow("ZentarForm", "Preferences");
+    zentar_->Settle();
+    ExpectTidyAtEveryResolution(preferences);
+}
+
+TEST_F(Layout, APromptHasRoomForItsLinesAndNoMore) {
+    zentar_->ShowTab(kFirstAidTab);
+    zentar_->ClickItem(IDC_lstSymptoms, "[ALL] Logitech mousewheel binds aren't working.");
+    zentar_->ClickOn(IDC_cmdRemedy2);
+    const HWND setting = zentar_->WaitForWindow("ZentarForm", "Change Logitech Setting");
+    zentar_->Settle();
+    const HWND prompt = FindWindowExW(setting, nullptr, L"Static", nullptr);
+    const RECT area = AreaOf(prompt);
+    const LONG needed = zentar_->CaptionSize(prompt).cy;
+    constexpr LONG kLines = 6;
+    EXPECT_LT(area.bottom - area.top - needed, 2 * needed / kLines) << "two lines stay empty";
+    ExpectTidyAtEveryResolution(setting);
 }
 
 TEST_F(Layout, TheListsGrowWithTheWindow) {

@@ -17,10 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kFormClass[] = "ZentarForm";
-constexpr char kDialogClass[] = "#32770";
-constexpr char kMenuClass[] = "#32768";
-
 constexpr std::array<WORD, 26> kKeys = {
     VK_UP,   VK_DOWN,   VK_DOWN, VK_DOWN,  VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END, VK_PRIOR,
     VK_NEXT, VK_TAB,    VK_TAB,  VK_SPACE, VK_RETURN, VK_RETURN, VK_ESCAPE, VK_F1,  VK_F2,
@@ -41,6 +37,14 @@ void CloseNotepads() {
     if (const HWND notepad = FindWindowW(L"Notepad", nullptr)) {
         PostMessageW(notepad, WM_CLOSE, 0, 0);
     }
+}
+
+// A menu bar that was entered, but not opened, has no window of its own.
+bool IsInMenu(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) != FALSE &&
+           (info.flags & (GUI_INMENUMODE | GUI_SYSTEMMENUMODE | GUI_POPUPMENUMODE)) != 0;
 }
 
 }  // namespace
@@ -321,7 +325,16 @@ void MonkeyHands::CalmDown() {
             open = ClassOf(*front) + " \"" + TextOf(*front) + '"';
             Dismiss(*front);
         }
-        return others.empty() && IsWindowEnabled(zentar_.Main()) != FALSE;
+        if (!others.empty() || IsWindowEnabled(zentar_.Main()) == FALSE) {
+            return false;
+        }
+        SetForegroundWindow(zentar_.Main());
+        open = "the menu bar";
+        if (IsInMenu(zentar_.Main())) {
+            Press(VK_ESCAPE);
+            return false;
+        }
+        return GetForegroundWindow() == zentar_.Main();
     });
     if (!calm) {
         throw std::runtime_error("it stays open: " + open);
@@ -329,7 +342,6 @@ void MonkeyHands::CalmDown() {
     for (const fs::path& file : files_) {
         Appears(file);
     }
-    SetForegroundWindow(zentar_.Main());
     zentar_.Resize({1000, 720});
     zentar_.ShowTab(kDemosTab);
     zentar_.ClickOn(IDC_optGameQuake3);

@@ -1,9 +1,12 @@
-// A monkey at the real window: twenty thousand clicks and keys, sizes and games, while files come
-// and go. ZENTAR_MONKEY_STEPS says how many; ZENTAR_MONKEY_SEED names another monkey.
+// A monkey at the real window: thousands of clicks and keys, sizes and games, while files come and
+// go. ZENTAR_MONKEY_STEPS says how many follow the first ones; ZENTAR_MONKEY_SEED names another
+// monkey.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 
+#include "tests/window/answer_time.h"
 #include "tests/window/game_log.h"
 #include "tests/window/monkey_hands.h"
 #include "tests/window/monkey_resources.h"
@@ -16,7 +19,7 @@ constexpr int kSteps = 2'500;
 // By then the program has opened each kind of dialog, which leaves the system's libraries loaded.
 constexpr int kStepsToGetWarm = 2'500;
 constexpr int kFirstSeed = 1999;
-constexpr UINT kLongestAnswerMs = 2'000;
+constexpr std::chrono::milliseconds kLongestAnswer{2'000};
 
 // What libraries of the system keep for themselves as time goes by, and the windows that are made
 // when they are first shown, if the first steps did not.
@@ -39,19 +42,13 @@ class WindowMonkey : public testing::Test {
         home_.WriteIni();
     }
 
-    bool Answers(const ZentarDriver& zentar) const {
-        DWORD_PTR result = 0;
-        return SendMessageTimeoutW(zentar.Main(), WM_NULL, 0, 0, SMTO_NORMAL, kLongestAnswerMs,
-                                   &result) != 0;
-    }
-
     // False when the program has ended or does not answer.
     bool Run(const ZentarDriver& zentar, MonkeyHands& hands, int steps) const {
         for (int step = 1; step <= steps; ++step) {
             const std::string action = hands.Act();
             const bool runs = zentar.Running();
             EXPECT_TRUE(runs) << "it ended at step " << step << ": " << action;
-            const bool answers = runs && Answers(zentar);
+            const bool answers = runs && AnswersWithin(zentar.Main(), kLongestAnswer);
             EXPECT_TRUE(!runs || answers) << "it hangs at step " << step << ": " << action;
             if (!answers) {
                 return false;
@@ -73,6 +70,11 @@ TEST_F(WindowMonkey, DoesNoHarmAndLeavesNothingBehind) {
     ASSERT_TRUE(Run(zentar, hands, kStepsToGetWarm));
     hands.CalmDown();
     const Resources before = ResourcesOf(zentar.Process());
+    // Where nothing can be counted, nothing would ever leak.
+    ASSERT_GT(before.handles, 0U);
+    ASSERT_GT(before.drawing, 0U);
+    ASSERT_GT(before.windows, 0U);
+    ASSERT_GT(before.memory, 0U);
     ASSERT_TRUE(Run(zentar, hands, FromEnvironment("ZENTAR_MONKEY_STEPS", kSteps)));
     hands.CalmDown();
     const Resources after = ResourcesOf(zentar.Process());

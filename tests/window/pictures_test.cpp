@@ -30,6 +30,7 @@ TEST(Pictures, OfEveryTabAndDialog) {
     zentar.ClickItem(IDC_lstDemos, "edge final");
     EXPECT_GT(TakePicture(main, "demo selected"), kSmallestPicture);
     const HWND popup = zentar.OpenPopup(IDC_lstDemos, "edge final");
+    zentar.Settle();
     EXPECT_GT(TakePicture(main, "popup"), kSmallestPicture);
     zentar.ClosePopup(popup);
     zentar.PressKey(VK_F2);
@@ -54,6 +55,28 @@ TEST(Pictures, OfEveryTabAndDialog) {
     EXPECT_GT(TakePicture(preferences, "preferences"), kSmallestPicture);
 }
 
+TEST(Pictures, OfTheLargestWindowAndItsMenus) {
+    const ZentarHome home;
+    home.WriteIni();
+    const ZentarDriver zentar(home);
+    const HWND main = zentar.Main();
+    for (const char menu : {'P', 'G', 'H'}) {
+        PressWith(VK_MENU, static_cast<WORD>(menu));
+        const HWND opened = zentar.WaitForWindow("#32768", "");
+        zentar.Settle();
+        EXPECT_GT(TakePicture(main, std::string("menu ") + menu), kSmallestPicture);
+        zentar.ClosePopup(opened);
+        Press(VK_ESCAPE);
+        zentar.Settle();
+    }
+    ShowWindow(main, SW_MAXIMIZE);
+    Eventually([main] { return IsZoomed(main) != FALSE; });
+    for (int tab = 0; tab < 5; ++tab) {
+        zentar.ShowTab(tab);
+        EXPECT_GT(TakePicture(main, "large tab " + std::to_string(tab)), kSmallestPicture);
+    }
+}
+
 TEST(Pictures, OfScreenshots) {
     const ZentarHome home;
     home.WriteIni();
@@ -62,6 +85,7 @@ TEST(Pictures, OfScreenshots) {
     zentar.ClickItem(IDC_lstScreenshots, "quake01.tga");
     EXPECT_GT(TakePicture(main, "shot in real mode"), kSmallestPicture);
     const HWND popup = zentar.OpenPopup(IDC_lstScreenshots, "quake01.tga *");
+    zentar.Settle();
     EXPECT_GT(TakePicture(main, "shot popup"), kSmallestPicture);
     zentar.ClosePopup(popup);
     zentar.ClickItem(IDC_lstScreenshots, "wide.tga");

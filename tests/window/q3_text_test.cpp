@@ -1,10 +1,10 @@
 // The designer of coloured texts.
 #include <gtest/gtest.h>
 
+#include "platform/win32/win32_text.h"
 #include "tests/contract/win32/clipboard_content.h"
 #include "tests/window/commands_fixture.h"
 #include "tests/window/file_dialog.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -133,8 +133,11 @@ TEST_F(Q3Text, RichTextIsPastedWithItsColoursAlone) {
     EXPECT_SOON(Edited(), "");
 }
 
-TEST_F(Q3Text, ADesignIsSavedAndOpenedAgain) {
+TEST_F(Q3Text, ADesignOfAnyNameIsSavedAndOpenedAgain) {
     ZentarDriver& zentar = Open();
+    const fs::path design = (Designs() / Widen("дуэль.ini")).make_preferred();
+    fs::create_directories(Designs());
+    WriteBytes(Designs() / Widen("Größe.ini"), "old");
     TypeText("a/b:c");
     SelectLast(1);
     zentar.ClickOn(IDC_cmdQ3TextBlue);
@@ -142,21 +145,19 @@ TEST_F(Q3Text, ADesignIsSavedAndOpenedAgain) {
     const HWND save = WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text");
     EXPECT_TRUE(OfferedName(save).starts_with("a[FS]b[C]c"));
     EXPECT_EQ(KindsIn(save), Lines{"Quake 3 coloured text (*.ini)"});
-    ChooseFile(save, "design");
-    EXPECT_SOON(fs::exists(Designs() / "design.ini"), true);
+    ChooseFile(save, "дуэль");
+    EXPECT_SOON(fs::exists(design), true);
     zentar.Settle();
-    const std::string saved = ReadBytes(Designs() / "design.ini");
+    const std::string saved = ReadBytes(design);
     EXPECT_EQ(saved.find("{\\rtf1"), 0U);
     TypeText("more");
     zentar.ClickOn(IDC_cmdQ3TextOpen);
     const HWND open = WaitForFileDialog(zentar.Process(), "Open Quake 3 coloured text");
-    EXPECT_SOON(FilesListed(open), Lines{"design.ini"});
-    ChooseFile(open, "design.ini");
+    EXPECT_SOON(FilesListed(open), (Lines{"Größe.ini", "дуэль.ini"}));
+    ChooseFile(open, "дуэль.ini");
     EXPECT_SOON(Code(), "seta name \"^^0a/b:^4c^7\"");
     EXPECT_EQ(zentar.Close(), 0);
-    EXPECT_NE(ReadBytes(home_.Ini())
-                  .find("\r\nQ3TextText=" +
-                        Narrow((Designs() / "design.ini").make_preferred().wstring()) + "\r\n"),
+    EXPECT_NE(ReadBytes(home_.Ini()).find("\r\nQ3TextText=" + Narrow(design.wstring()) + "\r\n"),
               std::string::npos);
     // The next start shows it again.
     zentar_ = std::make_unique<ZentarDriver>(home_);

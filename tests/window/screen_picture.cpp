@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/nviewlib/win32/resources.h"
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/zentar_home.h"
 
 namespace zentar::window_tests {
@@ -68,9 +68,12 @@ void SavePng(HBITMAP bitmap, const std::filesystem::path& file) {
 std::uintmax_t TakePicture(HWND window, const std::string& name) {
     RECT area{};
     GetWindowRect(window, &area);
+    // The frame of a maximised window lies outside, from where nothing can be copied.
+    const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    IntersectRect(&area, &area, &screen);
     const HBITMAP bitmap = CopyScreen(area);
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    const std::filesystem::path file = PictureFolder() / (Wide(name) + L".png");
+    const std::filesystem::path file = PictureFolder() / (Widen(name) + L".png");
     SavePng(bitmap, file);
     CoUninitialize();
     DeleteObject(bitmap);
@@ -84,8 +87,7 @@ COLORREF PixelAt(POINT place) {
     return colour;
 }
 
-int CountPixels(HWND window, COLORREF colour) {
-    constexpr int kNear = 40;
+std::vector<RGBQUAD> PixelsOf(HWND window) {
     RECT area{};
     GetWindowRect(window, &area);
     const int width = area.right - area.left;
@@ -102,6 +104,12 @@ int CountPixels(HWND window, COLORREF colour) {
     GetDIBits(screen, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
     ReleaseDC(nullptr, screen);
     DeleteObject(bitmap);
+    return pixels;
+}
+
+int CountPixels(HWND window, COLORREF colour) {
+    constexpr int kNear = 40;
+    const std::vector<RGBQUAD> pixels = PixelsOf(window);
     return static_cast<int>(std::count_if(pixels.begin(), pixels.end(), [&](const RGBQUAD& pixel) {
         return std::abs(pixel.rgbRed - GetRValue(colour)) <= kNear &&
                std::abs(pixel.rgbGreen - GetGValue(colour)) <= kNear &&

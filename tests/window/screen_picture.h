@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace zentar::window_tests {
 
@@ -15,6 +16,9 @@ std::uintmax_t TakePicture(HWND window, const std::string& name);
 
 // The colour of one pixel of the screen.
 COLORREF PixelAt(POINT place);
+
+// The pixels of a window as the screen shows it, the lines from the top.
+std::vector<RGBQUAD> PixelsOf(HWND window);
 
 // How many pixels of a window on the screen are of that colour, or nearly so.
 int CountPixels(HWND window, COLORREF colour);

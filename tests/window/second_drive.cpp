@@ -6,23 +6,20 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
+#include "tests/contract/win32/path_outside_wine.h"
 
 namespace zentar::window_tests {
 
 namespace {
 
 // Wine shows the whole disk as its drive Z:, too, and tells where on it a file lies.
-std::wstring PathOnWinesDisk(const std::wstring& path) {
-    using UnixName = char*(CDECL*)(const wchar_t*);
-    const auto unixName = reinterpret_cast<UnixName>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
-    char* const name = unixName == nullptr ? nullptr : unixName(path.c_str());
-    if (name == nullptr) {
+std::wstring PathOnWinesDisk(const std::filesystem::path& path) {
+    const std::optional<std::string> outside = PathOutsideWine(path);
+    if (!outside) {
         return {};
     }
-    std::wstring onDisk = L"Z:" + Wide(name);
-    HeapFree(GetProcessHeap(), 0, name);
+    std::wstring onDisk = L"Z:" + Widen(*outside);
     std::replace(onDisk.begin(), onDisk.end(), L'/', L'\\');
     // Its drive C: is a link of that name, which a path of Windows cannot hold.
     constexpr std::wstring_view kLink = LR"(\dosdevices\c:)";
@@ -34,8 +31,7 @@ std::wstring PathOnWinesDisk(const std::wstring& path) {
 
 }  // namespace
 
-SecondDrive::SecondDrive(const std::filesystem::path& folder)
-    : root_(PathOnWinesDisk(folder.wstring())) {
+SecondDrive::SecondDrive(const std::filesystem::path& folder) : root_(PathOnWinesDisk(folder)) {
     for (wchar_t letter = L'R'; root_.empty() && letter >= L'K'; --letter) {
         letter_ = {letter, L':'};
         if (GetDriveTypeW((letter_ + L"\\").c_str()) == DRIVE_NO_ROOT_DIR &&

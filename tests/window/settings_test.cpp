@@ -10,44 +10,6 @@
 namespace zentar::window_tests {
 namespace {
 
-// zentar.ini, whole, as the program writes it for a home with the given differences.
-std::string WholeIni(const ZentarHome& home, const std::string& game, const std::string& demos) {
-    std::string text =
-        "// Zentar v0.99 BETA Settings File.\r\n"
-        "// Changes are NOT recommended!\r\n"
-        "// ----------------------------\r\n"
-        "Virgin=0\r\n"
-        "Game=" +
-        game +
-        "\r\n"
-        "Q1Folder=" +
-        FolderText(home.Games() / "Quake") +
-        "\r\n"
-        "Q2Folder=" +
-        FolderText(home.Games() / "Quake2") +
-        "\r\n"
-        "Q3Folder=" +
-        FolderText(home.Games() / "Quake3") +
-        "\r\n"
-        "CurMod1=id1\r\nCurMod2=baseq2\r\nCurMod3=baseq3\r\n"
-        "Remote=" +
-        FolderText(home.Remote()) +
-        "\r\n"
-        "Expert=0\r\nPreview=0\r\nAutoShowAll=1\r\nAutoNextShot=0\r\nAutoNextDemo=0\r\n"
-        "BackupAll=0\r\n" +
-        demos +
-        "ScanWarn=0\r\nTranscriptHTML=1\r\nTranscriptGameplay=0\r\n"
-        "TranscriptMessages=-1\r\nTranscriptBackground=-1\r\n";
-    for (int box = 1; box <= 24; ++box) {
-        const std::string player = "Player" + std::to_string(box);
-        text += player + (box == 7 ? "Name=^1Ember\xFF\r\n" : "Name=\r\n");
-        text += player + (box == 7 ? "Colour=255\r\n" : "Colour=\r\n");
-    }
-    return text +
-           "Q3TextType=0\r\nQ3TextKeyfox=0\r\nQ3TextOSP=0\r\nQ3TextText=\r\n"
-           "// ===================================================================\r\n";
-}
-
 const IniLines kPlayer = {
     "Player7Name=^1Ember\xFF", "Player7Colour=255",    "Preview=0",      "BackupAll=0",
     "TranscriptHTML=1",        "TranscriptGameplay=0", "Q3TextKeyfox=0", "Q3TextOSP=0"};
@@ -65,11 +27,13 @@ TEST(Settings, AreWrittenToTheByteWhenTheProgramIsClosed) {
     zentar.ClickOn(IDC_optGameQuake3);
     EXPECT_SOON(zentar.Selected(IDC_lstMods), "baseq3");
     EXPECT_EQ(zentar.Close(), 0);
+    const std::string filter =
+        "DemosFilter=Gr\xF6\xDF"
+        "e";
     // Another mod was shown, so all demos are.
     EXPECT_EQ(ReadBytes(home.Ini()),
-              WholeIni(home, "Quake3",
-                       "DemosAll=1\r\nDemosText=False\r\nDemosFilter=Gr\xF6\xDF"
-                       "e\r\n"));
+              home.WholeIni({"Game=Quake3", "DemosText=False", filter, "Player7Name=^1Ember\xFF",
+                             "Player7Colour=255"}));
 }
 
 TEST(Settings, AreTheSameAfterARunThatChangedNothing) {

@@ -2,12 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/image_library_file.h"
 #include "tests/window/second_drive.h"
 #include "tests/window/shots_fixture.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
+#include "tests/window/wallpaper.h"
 #include "tests/window/windows_of.h"
 #include "ui/resource.h"
 
@@ -30,7 +31,7 @@ class ShotCommands : public ShotsWindowTest {
     // The report that a conversion ends with.
     void AnswerDone(long long original, const std::string& jpg) const {
         const HWND box = zentar_->WaitForBox("Done");
-        const auto length = static_cast<long long>(fs::file_size(Shots() / Wide(jpg)));
+        const auto length = static_cast<long long>(fs::file_size(Shots() / Widen(jpg)));
         EXPECT_EQ(zentar_->Read(box),
                   Done({"Original image size:\t" + Grouped(original) + " bytes.",
                         "JPG version size:\t" + Grouped(length) + " bytes.",
@@ -40,7 +41,7 @@ class ShotCommands : public ShotsWindowTest {
     }
 
     bool IsJpg(const std::string& file) const {
-        return ReadBytes(Shots() / Wide(file)).starts_with("\xFF\xD8\xFF");
+        return ReadBytes(Shots() / Widen(file)).starts_with("\xFF\xD8\xFF");
     }
 };
 
@@ -100,15 +101,6 @@ TEST_F(ShotCommands, AReadOnlyJpgIsAskedAboutInExpertModeToo) {
     Answer(question, IDYES);
     AnswerDone(kTga640, "quake00.jpg");
     EXPECT_TRUE(IsJpg("quake00.jpg"));
-}
-
-// As it is kept for the next logon; the system tells each process only what it was at first.
-std::wstring CurrentWallpaper() {
-    std::wstring path(MAX_PATH, L'\0');
-    DWORD bytes = MAX_PATH * sizeof(wchar_t);
-    RegGetValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"Wallpaper", RRF_RT_REG_SZ, nullptr,
-                 path.data(), &bytes);
-    return path.c_str();
 }
 
 TEST_F(ShotCommands, SetsTheWallpaperAndDeletesWhatItMade) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "platform/win32/win32_text.h"
 #include "screenshots/shot_name.h"
 #include "tests/window/screen_picture.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "ui/resource.h"
@@ -24,7 +24,7 @@ bool IsGateOf(int hall, COLORREF colour) {
 fs::path ShotsWindowTest::Shots() const { return home_.Games() / "Quake2" / "baseq2" / "scrnshot"; }
 
 bool ShotsWindowTest::IsHere(const std::string& file) const {
-    return fs::exists(Shots() / Wide(file));
+    return fs::exists(Shots() / Widen(file));
 }
 
 std::string ShotsWindowTest::EntryOf(const std::string& shot) const {

@@ -1,11 +1,11 @@
 // The Shots tab: the list, the view of a shot, and the two view modes.
 #include <gtest/gtest.h>
 
+#include "platform/win32/win32_text.h"
 #include "samples/shot_maker.h"
 #include "tests/window/image_library_file.h"
 #include "tests/window/screen_picture.h"
 #include "tests/window/shots_fixture.h"
-#include "tests/window/text_conversion.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -143,8 +143,6 @@ TEST_F(ShotsTabWindow, ShiftShowsThePreviewForOneSelection) {
     ClickShot("quake00.tga");
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "quake00.tga *");
     HoldKey(VK_SHIFT);
-    // Nobody types as fast as this; the system looks at the keys every 50 ms only.
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));
     // With the arrow key, as the pointer's arrival at a window resets what the system knows of
     // keys.
     zentar.PressKey(VK_DOWN);

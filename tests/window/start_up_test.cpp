@@ -1,8 +1,7 @@
 // What the user finds when the program has started.
 #include <gtest/gtest.h>
 
-#include <array>
-
+#include "tests/window/image_library_file.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -13,12 +12,6 @@ namespace zentar::window_tests {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-std::filesystem::path WindowsFolder() {
-    std::array<wchar_t, MAX_PATH> folder{};
-    GetWindowsDirectoryW(folder.data(), static_cast<UINT>(folder.size()));
-    return folder.data();
-}
 
 TEST(StartUp, TheStoredGameIsSelectedAndItsModsAreListedWithoutTheFoldersThatAreNoMods) {
     const ZentarHome home;

@@ -1,6 +1,6 @@
 #include "tests/window/user_input.h"
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/windows_of.h"
 
 namespace zentar::window_tests {
@@ -108,7 +108,7 @@ void HoldButton(POINT place) {
 void ReleaseButton() { SendMouse(MOUSEEVENTF_LEFTUP); }
 
 void Type(const std::string& text) {
-    for (const wchar_t letter : Wide(text)) {
+    for (const wchar_t letter : Widen(text)) {
         SendKey(0, letter, KEYEVENTF_UNICODE);
         SendKey(0, letter, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
     }

@@ -1,6 +1,6 @@
 #include "tests/window/window_probe_client.h"
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/windows_of.h"
 
 namespace zentar::window_tests {
@@ -53,6 +53,10 @@ SIZE WindowProbe::CaptionSize(HWND control) const {
     *answer_ = {};
     Send(control, RegisterWindowMessageW(kProbeCaptionMessage));
     return answer_->needed;
+}
+
+void WindowProbe::ChangeDpi(HWND window, int dpi) const {
+    Send(window, RegisterWindowMessageW(kProbeDpiMessage), static_cast<WPARAM>(dpi));
 }
 
 void WindowProbe::Pick(HWND picker, const std::wstring& folder) const {

@@ -33,6 +33,8 @@ class WindowProbe {
     SIZE CaptionSize(HWND control) const;
     // Whether the window's thread has input, messages or painting to do.
     bool IsBusy(HWND window) const;
+    // Tells a window that it came to a screen of that dpi.
+    void ChangeDpi(HWND window, int dpi) const;
     // Selects a folder in the system's folder picker.
     void Pick(HWND picker, const std::wstring& folder) const;
 

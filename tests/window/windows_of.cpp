@@ -1,6 +1,9 @@
 #include "tests/window/windows_of.h"
 
-#include "tests/window/text_conversion.h"
+#include <stdexcept>
+
+#include "platform/win32/win32_text.h"
+#include "tests/window/waiting.h"
 
 namespace zentar::window_tests {
 
@@ -31,6 +34,21 @@ std::string ItemText(HWND listBox, WPARAM index) {
 }
 
 }  // namespace
+
+HWND Found(HWND window, const std::string& what) {
+    if (window == nullptr) {
+        throw std::runtime_error("never saw " + what);
+    }
+    return window;
+}
+
+void WaitUntilGone(HWND window) {
+    const bool gone = Eventually(
+        [window] { return IsWindow(window) == FALSE || IsWindowVisible(window) == FALSE; });
+    if (!gone) {
+        throw std::runtime_error("a window stays: " + ClassOf(window));
+    }
+}
 
 LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;

@@ -8,6 +8,14 @@
 
 namespace zentar::window_tests {
 
+// The classes of the program's own windows, and of the dialogs and menus of the system.
+inline constexpr char kFormClass[] = "ZentarForm";
+inline constexpr char kDialogClass[] = "#32770";
+inline constexpr char kMenuClass[] = "#32768";
+
+// The window; throws std::runtime_error, which tells what was never seen, when there is none.
+HWND Found(HWND window, const std::string& what);
+
 // The visible top-level windows of a process, the front one first.
 std::vector<HWND> TopWindows(DWORD process);
 // The first of them with that class, and that title if one is given; null when there is none.
@@ -17,6 +25,9 @@ HWND FindTop(DWORD process, const std::string& windowClass, const std::string& t
 std::vector<HWND> Descendants(HWND window);
 // The control with a number, however deep it lies; null when there is none.
 HWND FindControl(HWND window, int id);
+
+// Waits until a window is gone, or hidden.
+void WaitUntilGone(HWND window);
 
 std::string ClassOf(HWND window);
 std::string TextOf(HWND window);

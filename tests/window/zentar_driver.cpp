@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "tests/window/text_conversion.h"
+#include "platform/win32/win32_text.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -16,53 +16,21 @@ namespace zentar::window_tests {
 
 namespace {
 
-constexpr char kFormClass[] = "ZentarForm";
-constexpr char kDialogClass[] = "#32770";
-constexpr char kMenuClass[] = "#32768";
 constexpr UINT kGetMenuHandle = 0x01E1;  // MN_GETHMENU
 constexpr int kIdleLooks = 3;
-constexpr DWORD kExitPatienceMs = 15'000;
-
-// A message that tells the reader of a failed run what never came.
-HWND Found(HWND window, const std::string& what) {
-    if (window == nullptr) {
-        throw std::runtime_error("never saw " + what);
-    }
-    return window;
-}
 
 }  // namespace
 
-ZentarDriver::ZentarDriver(const ZentarHome& home, Start start) {
-    const std::filesystem::path program = home.Program() / "zentar.exe";
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    // A file that was written a moment ago may still be held, by a virus scanner for instance.
-    const bool started = Eventually([&] {
-        return CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
-                              home.Program().c_str(), &startup, &process_) != FALSE;
-    });
-    if (!started) {
-        throw std::runtime_error("cannot start zentar.exe, error " +
-                                 std::to_string(GetLastError()));
-    }
+ZentarDriver::ZentarDriver(const ZentarHome& home, Start start)
+    : program_(home.Program() / "zentar.exe") {
     main_ = Found(Eventually([this] { return FindTop(Process(), kFormClass, "Zentar"); }),
                   "the main window");
     SetForegroundWindow(main_);
-    probe_ = std::make_unique<WindowProbe>(process_.dwThreadId);
+    probe_ = std::make_unique<WindowProbe>(program_.Thread());
     if (start == Start::Normal) {
         GetsFocus(IDC_SSTab1);
         Settle();
     }
-}
-
-ZentarDriver::~ZentarDriver() {
-    probe_.reset();
-    if (Running()) {
-        Kill();
-    }
-    CloseHandle(process_.hThread);
-    CloseHandle(process_.hProcess);
 }
 
 HWND ZentarDriver::Control(int id) const {
@@ -101,11 +69,13 @@ void ZentarDriver::Resize(SIZE size) const {
 GUITHREADINFO ZentarDriver::Keyboard() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof(info);
-    GetGUIThreadInfo(process_.dwThreadId, &info);
+    GetGUIThreadInfo(program_.Thread(), &info);
     return info;
 }
 
 HWND ZentarDriver::Focused() const { return Keyboard().hwndFocus; }
+
+HWND ZentarDriver::Caret() const { return Keyboard().hwndCaret; }
 
 bool ZentarDriver::GetsFocus(int id) const {
     return Eventually([this, id] {
@@ -229,13 +199,13 @@ MenuLine ZentarDriver::PopupLine(HWND popup, int id) const {
 
 void ZentarDriver::ClosePopup(HWND popup) const {
     Press(VK_ESCAPE);
-    Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
+    WaitUntilGone(popup);
 }
 
 void ZentarDriver::Choose(int listBox, const std::string& item, char letter) const {
     const HWND popup = OpenPopup(listBox, item);
     Press(static_cast<WORD>(letter));
-    Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
+    WaitUntilGone(popup);
 }
 
 void ZentarDriver::ChooseCommand(int listBox, const std::string& item, int command) const {
@@ -253,30 +223,12 @@ void ZentarDriver::WalkTo(HWND popup, int command) const {
     }
     Press(VK_DOWN);
     Press(VK_RETURN);
-    Eventually([popup] { return IsWindow(popup) == FALSE || IsWindowVisible(popup) == FALSE; });
+    WaitUntilGone(popup);
 }
 
-int ZentarDriver::Close() {
+int ZentarDriver::Close() const {
     PostMessageW(main_, WM_CLOSE, 0, 0);
     return WaitForExit();
-}
-
-int ZentarDriver::WaitForExit() {
-    if (WaitForSingleObject(process_.hProcess, kExitPatienceMs) != WAIT_OBJECT_0) {
-        return -1;
-    }
-    DWORD code = 0;
-    GetExitCodeProcess(process_.hProcess, &code);
-    return static_cast<int>(code);
-}
-
-void ZentarDriver::Kill() {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, kExitPatienceMs);
-}
-
-bool ZentarDriver::Running() const {
-    return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
 }
 
 }  // namespace zentar::window_tests

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tests/window/message_box.h"
+#include "tests/window/started_program.h"
 #include "tests/window/window_probe_client.h"
 #include "tests/window/zentar_home.h"
 
@@ -22,10 +23,6 @@ class ZentarDriver {
     // expected, waits until the first activation is over as well.
     enum class Start { Normal, FirstRun };
     explicit ZentarDriver(const ZentarHome& home, Start start = Start::Normal);
-    // Ends a program that is still running, without giving it a chance to save.
-    ~ZentarDriver();
-    ZentarDriver(const ZentarDriver&) = delete;
-    ZentarDriver& operator=(const ZentarDriver&) = delete;
 
     HWND Main() const { return main_; }
     HWND Control(int id) const;
@@ -42,11 +39,15 @@ class ZentarDriver {
     // desktop only after a while, which may undo a new size; so asks again until the size stays.
     void Resize(SIZE size) const;
     SIZE CaptionSize(HWND control) const { return probe_->CaptionSize(control); }
+    // As when a window is moved to a screen of another resolution.
+    void ChangeDpi(HWND window, int dpi) const { probe_->ChangeDpi(window, dpi); }
 
     // The window that has the keyboard.
     HWND Focused() const;
     // Waits until a control has it.
     bool GetsFocus(int id) const;
+    // The window that shows a caret; null when none does.
+    HWND Caret() const;
 
     // Comes back once the program has handled all input so far and waits for more.
     void Settle() const;
@@ -84,17 +85,17 @@ class ZentarDriver {
     void WalkTo(HWND popup, int command) const;
 
     // Closes the main window as its close button does. The exit code, or -1 if it does not end.
-    int Close();
-    int WaitForExit();
-    void Kill();
-    bool Running() const;
-    DWORD Process() const { return process_.dwProcessId; }
+    int Close() const;
+    int WaitForExit() const { return program_.WaitForExit(); }
+    void Kill() const { program_.Kill(); }
+    bool Running() const { return program_.Running(); }
+    DWORD Process() const { return program_.Id(); }
 
   private:
     GUITHREADINFO Keyboard() const;
     int IndexOf(int listBox, const std::string& item) const;
 
-    PROCESS_INFORMATION process_{};
+    StartedProgram program_;
     HWND main_ = nullptr;
     std::unique_ptr<WindowProbe> probe_;
 };

@@ -2,12 +2,14 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
+#include "platform/win32/win32_text.h"
 #include "samples/sample_games.h"
 #include "tests/window/image_library_file.h"
-#include "tests/window/text_conversion.h"
 
 namespace zentar::window_tests {
 
@@ -24,9 +26,12 @@ fs::path NewFolder() {
     return folder;
 }
 
+// As far as it can be listed; it is no tragedy when something stays.
 void MakeAllWritable(const fs::path& top) {
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(top)) {
-        SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    std::error_code error;
+    for (fs::recursive_directory_iterator entry(top, error), end; !error && entry != end;
+         entry.increment(error)) {
+        SetFileAttributesW(entry->path().c_str(), FILE_ATTRIBUTE_NORMAL);
     }
 }
 
@@ -70,6 +75,40 @@ void ZentarHome::WriteIni(const IniLines& more) const {
         bytes += line + "\r\n";
     }
     WriteBytes(Ini(), bytes);
+}
+
+std::string ZentarHome::WholeIni(const IniLines& others) const {
+    IniLines lines = GameLines();
+    const std::string remote = lines.back();
+    lines.pop_back();
+    lines.insert(lines.end(),
+                 {"CurMod1=id1", "CurMod2=baseq2", "CurMod3=baseq3", remote, "Expert=0",
+                  "Preview=0", "AutoShowAll=1", "AutoNextShot=0", "AutoNextDemo=0", "BackupAll=0",
+                  "DemosAll=1", "DemosText=True", "DemosFilter=", "ScanWarn=0", "TranscriptHTML=1",
+                  "TranscriptGameplay=0", "TranscriptMessages=-1", "TranscriptBackground=-1"});
+    for (int box = 1; box <= 24; ++box) {
+        const std::string player = "Player" + std::to_string(box);
+        lines.insert(lines.end(), {player + "Name=", player + "Colour="});
+    }
+    lines.insert(lines.end(), {"Q3TextType=0", "Q3TextKeyfox=0", "Q3TextOSP=0", "Q3TextText="});
+    for (const std::string& other : others) {
+        const std::string setting = other.substr(0, other.find('=') + 1);
+        const auto same = std::find_if(lines.begin(), lines.end(), [&](const std::string& line) {
+            return line.starts_with(setting);
+        });
+        if (same == lines.end()) {
+            throw std::logic_error("no such setting: " + other);
+        }
+        *same = other;
+    }
+    std::string text =
+        "// Zentar v0.99 BETA Settings File.\r\n"
+        "// Changes are NOT recommended!\r\n"
+        "// ----------------------------\r\n";
+    for (const std::string& line : lines) {
+        text += line + "\r\n";
+    }
+    return text + "// ===================================================================\r\n";
 }
 
 std::string FolderText(const fs::path& folder) { return Narrow(folder.wstring()) + "\\"; }

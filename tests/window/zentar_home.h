@@ -27,6 +27,9 @@ class ZentarHome {
     IniLines GameLines() const;
     // Writes zentar.ini: GameLines() and then the given ones, which win.
     void WriteIni(const IniLines& more = {}) const;
+    // zentar.ini, whole, as the program writes it after it showed all demos: with the given lines
+    // in the place of those that it has for the same setting otherwise.
+    std::string WholeIni(const IniLines& others) const;
 
   private:
     std::filesystem::path top_;

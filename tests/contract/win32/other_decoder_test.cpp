@@ -10,6 +10,7 @@
 #include "platform/win32/win32_handle.h"
 #include "platform/win32/win32_image_library.h"
 #include "platform/win32/win32_text.h"
+#include "tests/contract/win32/path_outside_wine.h"
 #include "tests/contract/win32/picture_files.h"
 #include "tests/contract/win32/the_platform.h"
 
@@ -24,19 +25,6 @@ constexpr auto kPatience = std::chrono::seconds(30);
 constexpr double kMostMeanDifference = 6;
 // In a smaller picture that is most of what there is to see.
 constexpr int kLeastSide = 16;
-
-// A file's path outside of Wine; nothing on Windows.
-std::optional<std::string> OutsidePath(const fs::path& file) {
-    using Convert = char*(CDECL*)(const wchar_t*);
-    const auto convert = reinterpret_cast<Convert>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
-    char* const path = convert == nullptr ? nullptr : convert(file.c_str());
-    if (path == nullptr)
-        return std::nullopt;
-    const std::string copy = path;
-    HeapFree(GetProcessHeap(), 0, path);
-    return copy;
-}
 
 // Has a shell outside of Wine run a command. It does not wait.
 bool RunOutside(const std::string& command) {
@@ -79,7 +67,7 @@ TEST(OtherDecoder, ShowsRealJpgsLikewise) {
     const TestFolder folder;
     const fs::path copy = folder.Path() / "a.jpg";
     const fs::path shown = folder.Path() / "a.bmp";
-    const std::optional<std::string> outside = OutsidePath(folder.Path());
+    const std::optional<std::string> outside = PathOutsideWine(folder.Path());
     if (!outside || !fs::exists("Z:\\usr\\bin\\convert") || RealFiles("jpg").empty())
         GTEST_SKIP() << "no other decoder, or no real files, at hand";
     Win32ImageLibrary library(Narrow(BuiltLibrary().parent_path().wstring()));

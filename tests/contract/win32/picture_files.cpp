@@ -164,10 +164,4 @@ std::size_t MemoryNow() { return Counters().WorkingSetSize; }
 
 std::size_t MostMemory() { return Counters().PeakWorkingSetSize; }
 
-DWORD OpenHandles() {
-    DWORD count = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &count);
-    return count;
-}
-
 }  // namespace zentar

@@ -56,6 +56,5 @@ std::filesystem::path BuiltLibrary();
 // What this process holds, and has held at most, of the machine's memory.
 std::size_t MemoryNow();
 std::size_t MostMemory();
-DWORD OpenHandles();
 
 }  // namespace zentar

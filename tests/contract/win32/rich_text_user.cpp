@@ -47,20 +47,6 @@ HWND RichTextUser::Top() const { return FindTopWindow(ContractMainTable().captio
 
 HWND RichTextUser::Editor() const { return FindControlWindow(Top(), kRich); }
 
-void RichTextUser::Settle() {
-    constexpr DWORD kQuietMilliseconds = 60;
-    // Some systems' visual styles never come to rest.
-    constexpr DWORD kLongest = 2000;
-    const DWORD start = GetTickCount();
-    do {
-        ThePlatform().Services().windows.PumpPending();
-        MSG quit{};
-        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    } while (GetTickCount() - start < kLongest &&
-             MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
-                 WAIT_TIMEOUT);
-}
-
 void RichTextUser::SelectText(LONG from, LONG to) const { SetSelection(Editor(), {from, to}); }
 
 void RichTextUser::PressIn(HWND window, std::initializer_list<int> held, WPARAM key) {

@@ -27,10 +27,6 @@ class HeldKeys {
 
 // The contract's window, shown, with the focus in the box.
 class RichTextUser : public testing::Test {
-  public:
-    // The message loop, until nothing comes.
-    static void Settle();
-
   protected:
     RichTextUser();
     ~RichTextUser() override;

@@ -1,28 +1,12 @@
 #include "tests/contract/win32/system_dialog.h"
 
-#include <chrono>
 #include <cstddef>
 #include <utility>
 
-#include <gtest/gtest.h>
-
-#include "platform/win32/win32_text.h"
 #include "tests/contract/win32/win32_user.h"
 
 namespace zentar {
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-constexpr auto kPatience = std::chrono::seconds(20);
-
-BOOL CALLBACK CancelDialog(HWND window, LPARAM /*unused*/) {
-    wchar_t windowClass[16] = L"";
-    GetClassNameW(window, windowClass, 16);
-    if (windowClass == std::wstring(L"#32770"))
-        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-    return TRUE;
-}
 
 // The control, if a user can reach it by now.
 HWND ControlIn(const std::string& title, int id) {
@@ -31,54 +15,29 @@ HWND ControlIn(const std::string& title, int id) {
     return control != nullptr && MouseReaches(control) ? control : nullptr;
 }
 
-}  // namespace
-
-class DialogUser::Work {
-  public:
-    explicit Work(DialogSteps steps) : steps_(std::move(steps)) {}
-
-    void Go() {
-        if (late_) {
-            // Again and again, as one dialog may lie over another.
-            EnumThreadWindows(GetCurrentThreadId(), CancelDialog, 0);
-        } else if (at_ < steps_.size() && steps_[at_]()) {
-            ++at_;
-            end_ = Clock::now() + kPatience;
-        } else if (Clock::now() > end_) {
-            late_ = true;
-            ADD_FAILURE() << (at_ < steps_.size() ? "a step never works: number " : "stays after ")
-                          << at_;
-        }
-    }
-
-  private:
-    DialogSteps steps_;
-    std::size_t at_ = 0;
-    Clock::time_point end_ = Clock::now() + kPatience;
-    bool late_ = false;
-};
-
-DialogUser::DialogUser(DialogSteps steps) : work_(std::make_shared<Work>(std::move(steps))) {
-    TryMeanwhile([weak = std::weak_ptr<Work>(work_)] {
-        const std::shared_ptr<Work> work = weak.lock();
-        if (work)
-            work->Go();
-        return work == nullptr;
+// Tries the steps from that one on, for as long as somebody has them.
+void TryFrom(std::size_t at, const std::weak_ptr<const DialogSteps>& weak) {
+    TryMeanwhile("step " + std::to_string(at) + " of the user", [at, weak] {
+        const std::shared_ptr<const DialogSteps> steps = weak.lock();
+        if (steps == nullptr)
+            return true;
+        if (at == steps->size() || !(*steps)[at]())
+            return false;
+        TryFrom(at + 1, weak);
+        return true;
     });
 }
 
-DialogUser::~DialogUser() = default;
+}  // namespace
+
+DialogUser::DialogUser(DialogSteps steps)
+    : steps_(std::make_shared<const DialogSteps>(std::move(steps))) {
+    TryFrom(0, steps_);
+}
 
 HWND FindDialog(const std::string& title) {
     const HWND dialog = FindTopWindow(title);
     return dialog != nullptr && IsWindowVisible(dialog) ? dialog : nullptr;
-}
-
-std::string TextOf(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return Narrow(text);
 }
 
 std::function<bool()> ClickButton(const std::string& title, int button) {

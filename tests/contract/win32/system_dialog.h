@@ -14,23 +14,20 @@ namespace zentar {
 using DialogSteps = std::vector<std::function<bool()>>;
 
 // While this stands, a user does the steps in whatever dialog runs its message loop. A step that
-// never gives true, or a dialog that stays after the last one, fails the test; then all dialogs are
-// cancelled, so that it goes on.
+// never gives true, or a dialog that stays after the last one, fails the test.
 class DialogUser {
   public:
     explicit DialogUser(DialogSteps steps);
-    ~DialogUser();
+    ~DialogUser() = default;
     DialogUser(const DialogUser&) = delete;
     DialogUser& operator=(const DialogUser&) = delete;
 
   private:
-    class Work;
-    std::shared_ptr<Work> work_;
+    std::shared_ptr<const DialogSteps> steps_;
 };
 
 // The visible dialog of this thread that has this title; null when there is none.
 HWND FindDialog(const std::string& title);
-std::string TextOf(HWND window);
 
 // Steps of a user, in the dialog of that title.
 std::function<bool()> ClickButton(const std::string& title, int button);

@@ -26,7 +26,6 @@ constexpr int kColoursARow = 8;
 
 constexpr ColourRef kBrown = 0x3060A0;
 constexpr ColourRef kRed = 0x0000FF;
-constexpr ColourRef kWhite = 0xFFFFFF;
 
 std::optional<ColourRef> Choose(ColourRef shown, const DialogSteps& steps) {
     const DialogUser user(steps);

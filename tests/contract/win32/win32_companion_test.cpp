@@ -29,7 +29,7 @@ class Win32Companion : public testing::Test {
         };
         form_->SetEvents(std::move(events));
         form_->Show();
-        RichTextUser::Settle();
+        Settle();
     }
 
     RECT Place() const {
@@ -68,12 +68,12 @@ TEST_F(Win32Companion, CanBeMadeLargerButNotSmaller) {
 TEST_F(Win32Companion, EscapeClosesItAndItComesBackWhereItWas) {
     SetWindowPos(top_, nullptr, 30, 40, 400, 420, SWP_NOZORDER);
     PostKey(GetFocus(), VK_ESCAPE);
-    RichTextUser::Settle();
+    Settle();
     EXPECT_FALSE(IsWindowVisible(top_));
     EXPECT_EQ(asked_, 1);
     const RECT before = Place();
     form_->Show();
-    RichTextUser::Settle();
+    Settle();
     EXPECT_TRUE(IsWindowVisible(top_));
     const RECT after = Place();
     EXPECT_TRUE(EqualRect(&before, &after));

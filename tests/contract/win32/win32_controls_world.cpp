@@ -22,11 +22,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// A step that never comes ends the test after this time, and fails it.
-constexpr auto kPatience = std::chrono::seconds(20);
-// The window manager answers a shown or closed window only some time later.
-constexpr DWORD kQuietMilliseconds = 60;
-
 WPARAM VirtualKeyOf(Key key) {
     constexpr WPARAM kKeys[] = {VK_F1,   VK_F2,     VK_F5,    VK_DELETE,
                                 VK_BACK, VK_RETURN, VK_SPACE, VK_ESCAPE};
@@ -89,18 +84,13 @@ class Win32ControlsWorld : public ControlsWorld {
         PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
     }
 
-    void Settle() override {
-        do {
-            PumpPending();
-        } while (MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
-                 WAIT_TIMEOUT);
-    }
+    void Settle() override { zentar::Settle(); }
 
     void SettleUntil(Form& /*form*/, int /*timer*/,
                      const std::function<bool()>& condition) override {
         const auto end = Clock::now() + kPatience;
         while (!condition() && Clock::now() < end) {
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT);
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 60, QS_ALLINPUT);
             PumpPending();
         }
         EXPECT_TRUE(condition());
@@ -194,7 +184,7 @@ class Win32ControlsWorld : public ControlsWorld {
         InPopup(form, [](HWND top) { PostKey(top, VK_ESCAPE); });
     }
     void InModal(Form& form, std::function<void()> user) override {
-        TryMeanwhile([this, &form, user] {
+        TryMeanwhile("the form", [this, &form, user] {
             if (!Shown(form))
                 return false;
             Settle();
@@ -246,7 +236,7 @@ class Win32ControlsWorld : public ControlsWorld {
     HWND Of(Form& form, int id) const { return FindControlWindow(Top(form), id); }
 
     void InPopup(Form& form, std::function<void(HWND)> keys) {
-        TryMeanwhile([top = Top(form), keys] {
+        TryMeanwhile("the popup", [top = Top(form), keys] {
             if (FindWindowW(L"#32768", nullptr) == nullptr)
                 return false;
             keys(top);

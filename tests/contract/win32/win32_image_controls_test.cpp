@@ -29,17 +29,6 @@ BitmapPtr Plain(Size size, COLORREF colour) {
     return MakePicture(size, [colour](int, int) { return colour; });
 }
 
-// The program's messages, until the window manager is done as well.
-void Settle() {
-    constexpr DWORD kQuietMilliseconds = 60;
-    do {
-        ThePlatform().Services().windows.PumpPending();
-        MSG quit{};
-        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    } while (MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
-             WAIT_TIMEOUT);
-}
-
 COLORREF Shown(HWND window, POINT at) {
     const WindowContext context(window);
     return GetPixel(context.Get(), at.x, at.y);
@@ -89,7 +78,7 @@ class Win32ImageControls : public testing::Test {
 // Runs a step while the full screen window stands.
 void OnFullScreen(Form& form, const std::function<void(HWND box)>& step) {
     bool came = false;
-    TryMeanwhile([&] {
+    TryMeanwhile("the full screen", [&] {
         const HWND top = FindTopWindow(ContractFullScreenTable().caption);
         if (!IsWindowVisible(top))
             return false;

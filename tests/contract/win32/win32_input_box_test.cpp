@@ -19,13 +19,6 @@
 namespace zentar {
 namespace {
 
-std::string TextOf(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return Narrow(text);
-}
-
 HWND Inside(HWND box, const wchar_t* windowClass) {
     return FindWindowExW(box, nullptr, windowClass, nullptr);
 }
@@ -39,7 +32,7 @@ TextQuestion Question() {
 std::optional<std::string> AskAndDo(const TextQuestion& question,
                                     const std::function<void(HWND)>& user) {
     bool acted = false;
-    TryMeanwhile([&] {
+    TryMeanwhile("the box in front", [&] {
         const HWND box = FindTopWindow(question.title);
         if (box == nullptr || !IsWindowVisible(box) || GetActiveWindow() != box)
             return false;

@@ -34,7 +34,7 @@ void ExpectFace(HWND top) {
         RECT place{};
         GetWindowRect(top, &place);
         SendMessageW(top, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
-        RichTextUser::Settle();
+        Settle();
         const HWND button = FindControlWindow(top, kBehindColour);
         RECT client{};
         GetClientRect(button, &client);
@@ -125,17 +125,17 @@ TEST(Win32ColourButtons, TheFaceLeavesRoomForItsBorder) {
         const HWND top = FindTopWindow(ContractMainTable().caption);
         form->GetTab(kTabs).SelectTab(1);
         form->Show();
-        RichTextUser::Settle();
+        Settle();
         ExpectFace(top);
         form->GetButton(kBehindColour).SetEnabled(false);
-        RichTextUser::Settle();
+        Settle();
         ExpectFace(top);
         form->GetButton(kBehindColour).SetEnabled(true);
         form->GetButton(kBehindColour).SetFocus();
-        RichTextUser::Settle();
+        Settle();
         ExpectFace(top);
         SendMessageW(FindControlWindow(top, kBehindColour), BM_SETSTATE, TRUE, 0);
-        RichTextUser::Settle();
+        Settle();
         ExpectFace(top);
     }
 }

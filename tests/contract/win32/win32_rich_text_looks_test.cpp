@@ -158,7 +158,7 @@ TEST(Win32RichTextWindow, TheBorderIsThatOfTextBoxes) {
     form->GetRichTextBox(kRich).SetBackground(kOrange);
     form->Show();
     form->GetButton(kButton).SetFocus();
-    RichTextUser::Settle();
+    Settle();
     const HWND top = FindTopWindow(ContractMainTable().caption);
     const auto edge = [top](int id, int depth) {
         const HWND window = FindControlWindow(top, id);
@@ -170,21 +170,21 @@ TEST(Win32RichTextWindow, TheBorderIsThatOfTextBoxes) {
     EXPECT_EQ(edge(kRich, 0), edge(kManyLines, 0));
     const COLORREF unfocused = edge(kManyLines, 0);
     form->GetTextBox(kManyLines).SetFocus();
-    RichTextUser::Settle();
+    Settle();
     const COLORREF focused = edge(kManyLines, 0);
     form->GetRichTextBox(kRich).SetFocus();
-    RichTextUser::Settle();
+    Settle();
     EXPECT_EQ(edge(kRich, 0), focused);
     EXPECT_EQ(edge(kManyLines, 0), unfocused);
     form->GetButton(kButton).SetFocus();
-    RichTextUser::Settle();
+    Settle();
     EXPECT_EQ(edge(kRich, 0), unfocused);
     EXPECT_NE(edge(kRich, 0), kOrange);
     EXPECT_EQ(edge(kRich, 1), kOrange);
     EXPECT_EQ(edge(kRich, 2), kOrange);
     form->GetRichTextBox(kRich).SetEnabled(false);
     form->GetTextBox(kManyLines).SetEnabled(false);
-    RichTextUser::Settle();
+    Settle();
     EXPECT_EQ(edge(kRich, 0), edge(kManyLines, 0));
     EXPECT_EQ(edge(kRich, 1), GetSysColor(COLOR_BTNFACE));
 }

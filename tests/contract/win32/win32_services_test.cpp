@@ -22,7 +22,7 @@ struct SeenBox {
 
 // Asks, and presses a key once the box is there; gives the answer and what the user saw.
 Answer AskAndPress(const Message& message, WPARAM key, SeenBox& seen) {
-    TryMeanwhile([&message, &seen, key] {
+    TryMeanwhile("the box " + message.title, [&message, &seen, key] {
         const HWND box = FindTopWindow(message.title);
         if (box == nullptr || !IsWindowVisible(box))
             return false;

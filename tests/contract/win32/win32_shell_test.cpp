@@ -252,7 +252,11 @@ TEST_F(Win32ProgramStart, AMissingGameIsNotLookedForElsewhere) {
     EXPECT_TRUE(FailedWith(noFolder, FileError::NotFound));
     const Status relative = TheShell().StartProgram({"", "glquake.exe", ""});
     EXPECT_TRUE(FailedWith(relative, FileError::BadName));
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    // One that starts now comes to its log behind whatever started before.
+    const fs::path there = Folder("there");
+    AddGame(there, "glquake.exe");
+    EXPECT_TRUE(Succeeded(TheShell().StartProgram(StartOf(there, "glquake.exe", ""))));
+    EXPECT_EQ(LogOf(there), "glquake.exe\r\n" + Narrow(there.wstring()) + "\r\n2\r\n\r\n");
     EXPECT_FALSE(fs::exists(Folder("current") / "standin.log"));
     EXPECT_FALSE(fs::exists(Folder("on the path") / "standin.log"));
 }

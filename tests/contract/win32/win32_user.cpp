@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/win32/win32_text.h"
+#include "tests/contract/win32/the_platform.h"
 
 namespace zentar {
 namespace {
@@ -62,24 +63,92 @@ void Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     EXPECT_TRUE(PostMessageW(window, message, wParam, lParam));
 }
 
-std::function<bool()> meanwhileStep;
-UINT_PTR meanwhileTimer = 0;
+using Clock = std::chrono::steady_clock;
+
+struct Meanwhile {
+    std::string what;
+    std::function<bool()> step;
+    const testing::TestInfo* test = nullptr;
+    Clock::time_point end;
+    bool late = false;
+    UINT_PTR timer = 0;
+};
+
+Meanwhile meanwhile;
+
+const testing::TestInfo* CurrentTest() {
+    return testing::UnitTest::GetInstance()->current_test_info();
+}
+
+bool IsInMenu() {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &info) != FALSE &&
+           (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+}
+
+BOOL CALLBACK CancelWindow(HWND window, LPARAM /*unused*/) {
+    wchar_t windowClass[16] = L"";
+    GetClassNameW(window, windowClass, 16);
+    if (windowClass == std::wstring(L"#32770")) {
+        // Some questions can only be answered.
+        const WPARAM answer = GetDlgItem(window, IDNO) != nullptr ? IDNO : IDCANCEL;
+        PostMessageW(window, WM_COMMAND, answer, 0);
+    } else if (IsWindowVisible(window) && IsWindowEnabled(window)) {
+        PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+    return TRUE;
+}
+
+void CancelAll() {
+    if (IsInMenu())
+        EndMenu();
+    else
+        EnumThreadWindows(GetCurrentThreadId(), CancelWindow, 0);
+}
+
+void CALLBACK TryAgain(HWND window, UINT message, UINT_PTR timer, DWORD time);
+
+void Start(Meanwhile next) {
+    meanwhile = std::move(next);
+    meanwhile.timer = SetTimer(nullptr, 0, 10, &TryAgain);
+}
 
 // No timer runs during a try, or else that could never wait for silence.
 void CALLBACK TryAgain(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
     KillTimer(nullptr, timer);
-    if (timer != meanwhileTimer)
+    Meanwhile tried = meanwhile;
+    if (timer != tried.timer || CurrentTest() != tried.test || tried.step())
         return;
-    const std::function<bool()> step = meanwhileStep;
-    if (!step())
-        TryMeanwhile(step);
+    if (!tried.late && Clock::now() > tried.end) {
+        tried.late = true;
+        ADD_FAILURE() << "waited in vain: " << tried.what;
+    }
+    // Again and again, as one dialog may lie over another.
+    if (tried.late)
+        CancelAll();
+    Start(std::move(tried));
 }
 
 }  // namespace
 
-void TryMeanwhile(std::function<bool()> step) {
-    meanwhileStep = std::move(step);
-    meanwhileTimer = SetTimer(nullptr, 0, 10, &TryAgain);
+void Settle() {
+    constexpr DWORD kQuietMilliseconds = 60;
+    // Some systems' visual styles never come to rest.
+    constexpr DWORD kLongest = 2000;
+    const DWORD start = GetTickCount();
+    do {
+        ThePlatform().Services().windows.PumpPending();
+        // The main window's end would end the message loop for the tests after this one, too.
+        MSG quit{};
+        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    } while (GetTickCount() - start < kLongest &&
+             MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
+                 WAIT_TIMEOUT);
+}
+
+void TryMeanwhile(const std::string& what, std::function<bool()> step) {
+    Start({what, std::move(step), CurrentTest(), Clock::now() + kPatience});
 }
 
 HWND FindTopWindow(std::string_view title) {
@@ -112,6 +181,13 @@ std::string TooltipOf(HWND top, HWND control) {
     tool.lpszText = text.data();
     SendMessageW(search.found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
     return Narrow(text.data());
+}
+
+std::string TextOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return Narrow(text);
 }
 
 bool MouseReaches(HWND window) {

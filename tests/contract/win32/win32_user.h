@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -19,6 +20,8 @@ HWND SearchControlWindow(HWND top, int id);
 // The tooltip of a control; empty when it has none. There is none at all before the mouse moved.
 std::string TooltipOf(HWND top, HWND control);
 
+std::string TextOf(HWND window);
+
 // Whether the mouse would reach the window: all that it stands in is visible and enabled.
 bool MouseReaches(HWND window);
 
@@ -34,9 +37,18 @@ void PostRightClick(HWND window, POINT at);
 void PostKey(HWND window, WPARAM virtualKey);
 void PostText(HWND window, std::string_view text);
 
-// Runs the step again and again from inside whatever message loop runs, until it gives true. One
-// at a time.
-void TryMeanwhile(std::function<bool()> step);
+// What has not come after this time never will.
+inline constexpr auto kPatience = std::chrono::seconds(20);
+
+// Runs the message loop until nothing comes; the window manager answers a shown or closed window
+// only some time later.
+void Settle();
+
+// Runs the step again and again from inside whatever message loop runs, until it gives true, or
+// the test is over. One at a time. A step that never gives true fails the test, which then says
+// `what`; and what waits for a user, a menu, a dialog or a window, is cancelled, so that it goes
+// on.
+void TryMeanwhile(const std::string& what, std::function<bool()> step);
 
 POINT MiddleOf(const RECT& rect);
 POINT MiddleOf(HWND window);

@@ -17,6 +17,8 @@ inline constexpr wchar_t kProbeCaptionMessage[] = L"ZentarProbeCaption";
 inline constexpr wchar_t kProbeQueueMessage[] = L"ZentarProbeQueue";
 // Pick: sent to the system's folder picker, which then selects the folder in `text`.
 inline constexpr wchar_t kProbePickMessage[] = L"ZentarProbePick";
+// Dpi: sent to a top-level window, which then hears that it came to a screen of wParam dpi.
+inline constexpr wchar_t kProbeDpiMessage[] = L"ZentarProbeDpi";
 
 // The shared memory in which the probe puts its answer.
 inline constexpr wchar_t kProbeMemory[] = L"ZentarProbeAnswer";

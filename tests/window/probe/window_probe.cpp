@@ -66,7 +66,14 @@ void PickFolder(HWND picker, ProbeAnswer& answer) {
     SendMessageW(picker, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(answer.text));
 }
 
-enum class Question { None, Menu, Icon, Caption, Queue, Pick };
+// The size is a wish; the window makes of it what it needs.
+void ChangeDpi(HWND window, WPARAM dpi) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+}
+
+enum class Question { None, Menu, Icon, Caption, Queue, Pick, Dpi };
 
 Question QuestionOf(UINT message) {
     static const UINT menu = RegisterWindowMessageW(kProbeMenuMessage);
@@ -74,6 +81,7 @@ Question QuestionOf(UINT message) {
     static const UINT caption = RegisterWindowMessageW(kProbeCaptionMessage);
     static const UINT queue = RegisterWindowMessageW(kProbeQueueMessage);
     static const UINT pick = RegisterWindowMessageW(kProbePickMessage);
+    static const UINT dpi = RegisterWindowMessageW(kProbeDpiMessage);
     if (message == menu) {
         return Question::Menu;
     }
@@ -85,6 +93,9 @@ Question QuestionOf(UINT message) {
     }
     if (message == pick) {
         return Question::Pick;
+    }
+    if (message == dpi) {
+        return Question::Dpi;
     }
     return message == queue ? Question::Queue : Question::None;
 }
@@ -101,6 +112,8 @@ void Answer(Question question, const CWPSTRUCT& message, ProbeAnswer& answer) {
             return LookAtQueue(answer);
         case Question::Pick:
             return PickFolder(message.hwnd, answer);
+        case Question::Dpi:
+            return ChangeDpi(message.hwnd, message.wParam);
         case Question::None:
             return;
     }
