@@ -24,24 +24,28 @@ Function ${un}NameEntry
     ${EndIf}
 FunctionEnd
 
-; A program that runs cannot be opened for writing.
-Function ${un}StopWhileRunning
+; A program or library ($1) that runs cannot be opened for writing. Asks with the text $2.
+Function ${un}StopWhileInUse
 again:
-    ${IfNot} ${FileExists} "$INSTDIR\zentar.exe"
+    ${IfNot} ${FileExists} "$1"
         Return
     ${EndIf}
-    SetFileAttributes "$INSTDIR\zentar.exe" NORMAL
+    SetFileAttributes "$1" NORMAL
     ClearErrors
-    FileOpen $0 "$INSTDIR\zentar.exe" a
+    FileOpen $0 "$1" a
     ${IfNot} ${Errors}
         FileClose $0
         Return
     ${EndIf}
-    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
-        "Zentar is running. Leave it, then choose Retry.$\r$\n$\r$\n$INSTDIR\zentar.exe" \
-        /SD IDCANCEL IDRETRY again
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$2" /SD IDCANCEL IDRETRY again
     SetErrorLevel ${RUNNING_EXIT_CODE}
     Quit
+FunctionEnd
+
+Function ${un}StopWhileRunning
+    StrCpy $1 "$INSTDIR\zentar.exe"
+    StrCpy $2 "Zentar is running. Leave it, then choose Retry.$\r$\n$\r$\n$1"
+    Call ${un}StopWhileInUse
 FunctionEnd
 
 ; Whether the folder on the stack is a folder of its own, in which files can be deleted and rights

@@ -1,10 +1,8 @@
 ; The files in the folder of a copy, and its shortcut.
 
-; In one step, so that an interrupted upgrade leaves the old program or the new one.
-Function PutProgram
-    ClearErrors
-    File "/oname=$INSTDIR\zentar.exe.new" "${BUILD}/zentar.exe"
-    StrCpy $1 "$INSTDIR\zentar.exe"
+; Puts $1.new, unless writing it failed, in the place of $1. In one step, so that an interrupted
+; upgrade leaves the old file or the new one.
+Function PutInPlace
     ${IfNot} ${Errors}
         System::Call 'kernel32::MoveFileExW(w "$1.new", w r1, i ${MOVE_REPLACING}) i .r0'
         ${If} $0 != 0
@@ -15,6 +13,20 @@ Function PutProgram
     !insertmacro Fail "$1 could not be written."
 FunctionEnd
 
+Function PutUninstaller
+    StrCpy $1 "$INSTDIR\uninstall.exe"
+    ClearErrors
+    WriteUninstaller "$1.new"
+    Call PutInPlace
+FunctionEnd
+
+Function PutProgram
+    StrCpy $1 "$INSTDIR\zentar.exe"
+    ClearErrors
+    File "/oname=$1.new" "${BUILD}/zentar.exe"
+    Call PutInPlace
+FunctionEnd
+
 ; Lets the users of the machine change what $1 names; `rights` in the words of icacls. Where the
 ; disk knows no rights it fails, and nobody needs them.
 !macro GrantUsers rights
@@ -23,8 +35,8 @@ FunctionEnd
 !macroend
 
 ; The settings, and the folder of the designs. They are the users' own, so rights are given on these
-; alone, and on the folder only when it is new to setup ($R0 tells): later it holds whatever the
-; users made there, and rights given by an administrator would reach that, too.
+; alone, and only when they are new to setup ($R0 tells): later each can be whatever the users made
+; there, and rights given by an administrator would reach that, too.
 Function PutUsersFiles
     StrCpy $1 "$INSTDIR\zentar.ini"
     ${IfNot} ${FileExists} "$1"
@@ -34,20 +46,36 @@ Function PutUsersFiles
         ${If} ${Errors}
             !insertmacro Fail "$1 could not be written."
         ${EndIf}
+        !insertmacro GrantUsers "(M)"
+    ${ElseIf} $R0 != 1
+        !insertmacro GrantUsers "(M)"
     ${EndIf}
-    !insertmacro GrantUsers "(M)"
     StrCpy $1 "$INSTDIR\data"
-    ${If} $R0 == 1
-    ${AndIf} ${FileExists} "$1\*.*"
-        CreateDirectory "$1\q3text"
+    StrCpy $2 $R0
+    ${IfNot} ${FileExists} "$1\*.*"
+        StrCpy $2 0
+    ${EndIf}
+    ClearErrors
+    CreateDirectory "$1\q3text"
+    ${If} ${Errors}
+        !insertmacro Fail "The folder $1\q3text could not be made."
+    ${EndIf}
+    ${If} $2 == 1
         Return
     ${EndIf}
-    CreateDirectory "$1\q3text"
     Push "$1"
     Call IsOwnFolder
     Pop $0
     ${If} $0 = 1
         !insertmacro GrantUsers "(OI)(CI)(M)"
+    ${EndIf}
+FunctionEnd
+
+Function PutShortcut
+    ClearErrors
+    CreateShortcut "${SHORTCUT}" "$INSTDIR\zentar.exe"
+    ${If} ${Errors}
+        !insertmacro Fail "${SHORTCUT} could not be written."
     ${EndIf}
 FunctionEnd
 
@@ -58,10 +86,16 @@ Function un.DeleteProgram
         !insertmacro Fail "$INSTDIR\zentar.exe could not be deleted."
     ${EndIf}
     Delete "$INSTDIR\zentar.exe.new"
+    Delete "$INSTDIR\uninstall.exe.new"
     Delete "$INSTDIR\zentar.ini"
-    Delete "$INSTDIR\zentar.ini.new"
-    Delete "$INSTDIR\data\zentar.ini.new"
+    Delete "$INSTDIR\zentar.ini.zentar-new"
     Delete "$INSTDIR\tmp.bmp"
+    Push "$INSTDIR\data"
+    Call un.IsOwnFolder
+    Pop $0
+    ${If} $0 = 1
+        Delete "$INSTDIR\data\zentar.ini.new"
+    ${EndIf}
 FunctionEnd
 
 ; A design under its temporary name may be all that there is of it.
@@ -75,7 +109,7 @@ Function un.DeleteDesigns
     ${If} $0 = 1
     ${AndIf} $1 = 1
         Delete "$INSTDIR\data\q3text\*.ini"
-        Delete "$INSTDIR\data\q3text\*.ini.new"
+        Delete "$INSTDIR\data\q3text\*.ini.zentar-new"
     ${EndIf}
 FunctionEnd
 
@@ -103,6 +137,8 @@ FunctionEnd
 ; The uninstaller itself, once the one that was started has ended, and the folders that are empty.
 ; Not when setup has put a new copy there meanwhile.
 Function un.RemoveRest
+    ; The copy that does this goes at the next start of Windows; its folder after it, not before.
+    RMDir /REBOOTOK "$EXEDIR"
     StrCpy $1 0
     ${DoWhile} ${FileExists} "$INSTDIR\uninstall.exe"
         ReadRegStr $0 HKLM "${UNINSTALL_KEYS}\$Entry" "InstallLocation"
@@ -114,7 +150,12 @@ Function un.RemoveRest
         Sleep 100
         IntOp $1 $1 + 1
     ${Loop}
-    RMDir "$INSTDIR\data\q3text"
-    RMDir "$INSTDIR\data"
+    Push "$INSTDIR\data"
+    Call un.IsOwnFolder
+    Pop $0
+    ${If} $0 = 1
+        RMDir "$INSTDIR\data\q3text"
+        RMDir "$INSTDIR\data"
+    ${EndIf}
     RMDir "$INSTDIR"
 FunctionEnd

@@ -1,6 +1,8 @@
 ; nviewlib.dll in the Windows folder, which all copies of Zentar share. SharedDLLs counts them.
 
 !define LIBRARY "$WINDIR\nviewlib.dll"
+; The one that setup brings, to compare that one with.
+!define NEW_LIBRARY "$PLUGINSDIR\nviewlib.dll"
 
 ; Counts this copy, once. A library that is there uncounted was put there by hand, for a copy that
 ; nobody installed; that one counts, too.
@@ -23,57 +25,65 @@ Function CountLibrary
     ${EndIf}
 FunctionEnd
 
-; $0 becomes -1, 0 or 1: the library that is there is older than the new one, as old, or newer.
+; $R1 becomes -1, 0 or 1: the library that is there is older than the new one, as old, or newer.
 ; One without a version is older.
 Function CompareLibraries
     StrCpy $2 0
     StrCpy $3 0
     GetDLLVersion "${LIBRARY}" $2 $3
-    GetDLLVersion "${LIBRARY}.new" $4 $5
-    StrCpy $0 -1
+    GetDLLVersion "${NEW_LIBRARY}" $4 $5
+    StrCpy $R1 -1
     ${If} $2 U> $4
-        StrCpy $0 1
+        StrCpy $R1 1
     ${ElseIf} $2 = $4
     ${AndIf} $3 U> $5
-        StrCpy $0 1
+        StrCpy $R1 1
     ${ElseIf} $2 = $4
     ${AndIf} $3 = $5
-        StrCpy $0 0
+        StrCpy $R1 0
+    ${EndIf}
+FunctionEnd
+
+; An older library is to go, which it cannot while a copy uses it. Asked before anything is changed.
+Function StopWhileLibraryIsUsed
+    InitPluginsDir
+    ClearErrors
+    File "/oname=${NEW_LIBRARY}" "${BUILD}/nviewlib.dll"
+    ${If} ${Errors}
+        !insertmacro Fail "${NEW_LIBRARY} could not be written."
+    ${EndIf}
+    Call CompareLibraries
+    ${If} $R1 = -1
+        StrCpy $1 "${LIBRARY}"
+        StrCpy $2 "Another copy of Zentar is using $1. Leave it, then choose Retry."
+        Call StopWhileInUse
     ${EndIf}
 FunctionEnd
 
 ; A newer library stays. One as old is put there afresh, unless another copy is using it, and then
 ; it does.
 Function PutLibrary
+    ${If} $R1 = 1
+        Return
+    ${EndIf}
     ClearErrors
     File "/oname=${LIBRARY}.new" "${BUILD}/nviewlib.dll"
     ${If} ${Errors}
         Delete "${LIBRARY}.new"
         !insertmacro Fail "${LIBRARY} could not be written."
     ${EndIf}
-    Call CompareLibraries
-    ${If} $0 = 1
-        Delete "${LIBRARY}.new"
-        Return
-    ${EndIf}
-again:
     SetFileAttributes "${LIBRARY}" NORMAL
     StrCpy $1 "${LIBRARY}"
     System::Call 'kernel32::MoveFileExW(w "$1.new", w r1, i ${MOVE_REPLACING}) i .r2'
-    ${If} $2 = 0
-    ${AndIf} $0 = -1
-        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
-            "Another copy of Zentar is using ${LIBRARY}. Leave it, then choose Retry." \
-            /SD IDCANCEL IDRETRY again
-        Delete "${LIBRARY}.new"
-        SetErrorLevel ${RUNNING_EXIT_CODE}
-        Quit
-    ${EndIf}
     Delete "${LIBRARY}.new"
+    ${If} $2 = 0
+    ${AndIf} $R1 = -1
+        !insertmacro Fail "${LIBRARY} could not be written."
+    ${EndIf}
 FunctionEnd
 
 ; The last copy takes the library along, and what the program keeps in the Windows folder for as
-; long as it runs.
+; long as it runs. A library that is in use stays: only a copy that nobody installed can use it now.
 Function un.ReleaseLibrary
     ReadRegDWORD $0 HKLM "${UNINSTALL_KEYS}\$Entry" "${COUNTED}"
     ${If} $0 != 1
@@ -87,7 +97,7 @@ Function un.ReleaseLibrary
         Return
     ${EndIf}
     DeleteRegValue HKLM "${SHARED_KEY}" "${LIBRARY}"
-    Delete /REBOOTOK "${LIBRARY}"
+    Delete "${LIBRARY}"
     Delete "${LIBRARY}.new"
     Delete "$WINDIR\zentar-tmp.gif"
     Delete "$WINDIR\zentar-tmp.htm"

@@ -84,11 +84,12 @@ Var Entry
 
 ; --- Setup ---
 
-; A copy that is installed is upgraded where it is, unless the command line says otherwise.
+; A copy that is installed is upgraded where it is, unless the command line says otherwise, in
+; which a folder stands behind a capital D only.
 Function FindInstalledCopy
     System::Call 'kernel32::GetCommandLineW() w .r0'
     ClearErrors
-    ${GetOptions} $0 "/D=" $1
+    ${GetOptionsS} $0 "/D=" $1
     ${IfNot} ${Errors}
         Return
     ${EndIf}
@@ -124,7 +125,7 @@ FunctionEnd
 
 ; Written before the files, so that what an interrupted setup leaves can be uninstalled.
 Function WriteEntry
-    WriteUninstaller "$INSTDIR\uninstall.exe"
+    ClearErrors
     StrCpy $0 "${UNINSTALL_KEYS}\$Entry"
     ${If} $Entry == "Zentar"
         WriteRegStr HKLM $0 "DisplayName" "Zentar"
@@ -142,7 +143,7 @@ Function WriteEntry
     WriteRegDWORD HKLM $0 "NoModify" 1
     WriteRegDWORD HKLM $0 "NoRepair" 1
     ${If} ${Errors}
-        !insertmacro Fail "The uninstaller or its entry could not be written."
+        !insertmacro Fail "The entry of the uninstaller could not be written."
     ${EndIf}
 FunctionEnd
 
@@ -152,21 +153,23 @@ Section "Zentar"
     ${If} $0 > ${LONGEST_FOLDER}
         !insertmacro Fail "The name of the folder is too long."
     ${EndIf}
+    Call StopWhileRunning
+    Call StopWhileLibraryIsUsed
     ClearErrors
     SetOutPath "$INSTDIR"
     ${If} ${Errors}
         !insertmacro Fail "The folder $INSTDIR could not be made."
     ${EndIf}
     Call NameEntry
-    Call StopWhileRunning
     ReadRegDWORD $R0 HKLM "${UNINSTALL_KEYS}\$Entry" "${COUNTED}"
-    ClearErrors
+    Call PutUninstaller
     Call WriteEntry
     Call PutProgram
+    ; Before the count, whose mark says that the rights were given.
+    Call PutUsersFiles
     Call CountLibrary
     Call PutLibrary
-    Call PutUsersFiles
-    CreateShortcut "${SHORTCUT}" "$INSTDIR\zentar.exe"
+    Call PutShortcut
 SectionEnd
 
 ; --- Uninstall ---

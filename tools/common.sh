@@ -1,4 +1,4 @@
-# What ./run and ./test share. Sourced by bash; `root` is the project's folder.
+# What ./run, ./test and other tools share. Sourced by bash; `root` is the project's folder.
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc)
 
@@ -6,6 +6,11 @@ jobs=$(nproc)
 build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libbenchmark-dev)
 wine_packages=(wine wine64 xvfb openbox xdotool imagemagick fonts-wine fonts-dejavu-core)
 packaging_packages=(nsis zip unzip python3-yaml python3-jsonschema)
+
+# The version that the project has; nothing when it names none.
+project_version() {
+    sed -nE 's/^project\(zentar VERSION ([0-9.]+) .*/\1/p' "$root/CMakeLists.txt"
+}
 
 is_installed() {  # package
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
@@ -56,9 +61,10 @@ start_wine() {  # prefix
     # No offers to download what Zentar does not use, no entries in the user's desktop menus.
     export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
     mkdir -p "$WINEPREFIX"
-    wineserver -p
-    wine wineboot --init
+    # One that runs already is somebody else's, who would lose it at the end.
+    wineserver -p || { echo "Something runs in $1 already."; return 1; }
     wineserver_started=1
+    wine wineboot --init
 }
 
 start_display_and_wine() {  # prefix

@@ -5,6 +5,8 @@ packages=$work/packages
 drive=$work/wine/drive_c
 library=$drive/windows/nviewlib.dll
 shortcut="$drive/ProgramData/Microsoft/Windows/Start Menu/Programs/Zentar.lnk"
+web_site=$(sed -n 's/^ZENTAR_WEB_SITE:STRING=//p' "$build/CMakeCache.txt")
+web_site=${web_site%/}/
 rights_log=$drive/windows/system32/standin.log
 uninstall_keys='HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall'
 shared_key='HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\SharedDLLs'
@@ -124,7 +126,7 @@ expected_entry() {  # display-name folder
 "Publisher"="The Zentar developers"
 "QuietUninstallString"="\\"$path\\\\uninstall.exe\\" /S _?=$path"
 "UninstallString"="\\"$path\\\\uninstall.exe\\""
-"URLInfoAbout"="https://zentar.example/"
+"URLInfoAbout"="$web_site"
 END
 }
 
@@ -159,15 +161,41 @@ open_zentar() {  # folder window-title
     wait_for_window "$2"
 }
 
-# A look fails, too, when another window goes meanwhile.
-sees_window() {  # title
-    xdotool search --onlyvisible --name "^$1\$" >"$work/window.txt" 2>&1
+# Whether the window has the keyboard. A look fails, too, when another window goes meanwhile.
+has_keyboard() {  # title
+    local title
+    title=$(xdotool getactivewindow getwindowname 2>/dev/null) && [[ $title =~ ^$1$ ]]
 }
 
-# Until it has the keyboard, too.
 wait_for_window() {  # title
-    expect_that "there is a window $1" eventually sees_window "$1"
-    sleep 1
+    expect_that "there is a window $1" eventually has_keyboard "$1"
+}
+
+# Presses Enter unless the window is there.
+press_until_window() {  # title
+    has_keyboard "$1" || { xdotool key Return; false; }
+}
+
+# Selects a shot, and waits a little for what comes of it. The keys of a window's first moment can
+# get lost.
+select_a_shot_until() {  # command...
+    local tries
+    xdotool key --delay 300 Tab Down
+    for ((tries = 0; tries < 15; ++tries)); do
+        "$@" && return
+        sleep 0.2
+    done
+    return 1
+}
+
+# What the window that has the keyboard looks like.
+look() {
+    /usr/bin/import -window "$(xdotool getactivewindow)" rgb:- 2>/dev/null | sha256sum
+}
+
+looks_otherwise() {  # than
+    local now
+    now=$(look) && [ "$now" != "$1" ]
 }
 
 # Asks Zentar to leave, as the system does.
