@@ -21,16 +21,6 @@ namespace zentar::benchmarks {
 
 namespace {
 
-struct Case {
-    const char* name;
-    const char* phrase;
-};
-
-// In the demos' play, bytes with few bits set are frequent, "w" and "~" are rare.
-constexpr std::array<Case, 3> kCases = {{{"absent, rare first byte", "~wow Fred was here"},
-                                         {"absent, common first byte", "@ a frequent beginning"},
-                                         {"at the end of each demo", kLastWords}}};
-
 std::string g_large;
 std::string g_many;
 
@@ -94,7 +84,7 @@ void BareBlocks(benchmark::State& state) {
     }
 }
 
-std::string RipgrepName(const std::string& how, const Case& one) {
+std::string RipgrepName(const std::string& how, const PhraseCase& one) {
     return "rg " + how + ": " + one.name;
 }
 
@@ -113,7 +103,7 @@ int Run(int argc, char** argv) {
     const std::string base = argc > 1 ? argv[1] : "benchmark_data";
     g_large = LargeDemos(base);
     g_many = ManyDemos(base);
-    for (const Case& one : kCases) {
+    for (const PhraseCase& one : kPhraseCases) {
         Register(std::string("search: ") + one.name,
                  [&one](benchmark::State& state) { Search(state, one.phrase); });
         for (const char* how : {"--binary", "--text"}) {
@@ -126,7 +116,7 @@ int Run(int argc, char** argv) {
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     std::printf("\n%-45s %11s %11s\n", "best of the repetitions", "Zentar", "yardstick");
-    for (const Case& one : kCases) {
+    for (const PhraseCase& one : kPhraseCases) {
         for (const char* how : {"--binary", "--text"}) {
             reporter.PrintRatio(RipgrepName(how, one), std::string("search: ") + one.name,
                                 RipgrepName(how, one), 1.0);

@@ -9,22 +9,20 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "benchmarks/ratio_reporter.h"
-#include "platform/nviewlib/pcx_decoder.h"
+#include "benchmarks/sample_images.h"
 #include "platform/nviewlib/tga_decoder.h"
-#include "tests/unit/nviewlib/image_maker.h"
 
 namespace zentar::benchmarks {
 
 namespace {
 
-using nviewlib::testing::Picture;
 using Bytes = std::vector<std::uint8_t>;
-using Decoder = bool (*)(std::span<const std::uint8_t>, const nviewlib::RasterMaker&);
 
 constexpr double kFromMemory = 1.0;
 constexpr double kFromFile = 0.5;
@@ -36,17 +34,10 @@ struct Shot {
     Decoder decoder = nullptr;
 };
 
-// The room that a bitmap of Windows has: lines bottom up, each a multiple of four bytes.
-bool DecodeIntoBitmap(Decoder decoder, const Bytes& bytes) {
-    std::unique_ptr<std::uint8_t[]> room;
-    const bool done = decoder(bytes, [&](nviewlib::ImageSize size) {
-        const std::ptrdiff_t pitch = (std::ptrdiff_t{size.width} * 3 + 3) / 4 * 4;
-        room = std::make_unique_for_overwrite<std::uint8_t[]>(
-            static_cast<std::size_t>(pitch * size.height));
-        return nviewlib::Raster{room.get() + (pitch * (size.height - 1)), -pitch};
-    });
-    benchmark::DoNotOptimize(room.get());
-    return done;
+bool Decodes(Decoder decoder, std::span<const std::uint8_t> bytes) {
+    const std::optional<BottomUpPicture> picture = Decode(decoder, bytes);
+    benchmark::DoNotOptimize(picture);
+    return picture.has_value();
 }
 
 void Check(benchmark::State& state, bool done) {
@@ -57,7 +48,7 @@ void Check(benchmark::State& state, bool done) {
 
 void FromMemory(benchmark::State& state, const Shot& shot) {
     for (auto _ : state) {
-        Check(state, DecodeIntoBitmap(shot.decoder, shot.bytes));
+        Check(state, Decodes(shot.decoder, shot.bytes));
     }
 }
 
@@ -79,8 +70,7 @@ void FromFile(benchmark::State& state, const Shot& shot) {
         const int file = open(shot.path.c_str(), O_RDONLY | O_CLOEXEC);
         const ssize_t count = read(file, bytes.data(), bytes.size());
         close(file);
-        Check(state,
-              count == static_cast<ssize_t>(bytes.size()) && DecodeIntoBitmap(shot.decoder, bytes));
+        Check(state, count == static_cast<ssize_t>(bytes.size()) && Decodes(shot.decoder, bytes));
     }
 }
 
@@ -101,29 +91,18 @@ void FromFileConvert(benchmark::State& state, const Shot& shot) {
     }
 }
 
-Shot MakeShot(const std::string& folder, const std::string& name, const std::string& extension,
-              const std::string& file) {
-    const std::string path = folder + "/" + name + extension;
-    std::ofstream(path, std::ios::binary) << file;
-    return {name, path, Bytes(file.begin(), file.end()),
-            extension == ".pcx" ? nviewlib::DecodePcx : nviewlib::DecodeTga};
-}
-
 std::vector<Shot> MakeShots(const std::string& folder) {
     std::filesystem::create_directories(folder);
     std::vector<Shot> shots;
     for (const auto& [width, height] : {std::pair(640, 480), {1920, 1080}, {3840, 2160}}) {
-        const std::string size = std::to_string(width) + "x" + std::to_string(height);
-        const Picture view = nviewlib::testing::GameView(width, height);
-        const Picture few = nviewlib::testing::FewColours(width, height, 256);
-        using nviewlib::testing::MakeTga;
-        shots.push_back(MakeShot(folder, "tga 24 " + size, ".tga", MakeTga(view, {})));
-        shots.push_back(MakeShot(folder, "tga 32 " + size, ".tga", MakeTga(view, {.bits = 32})));
-        shots.push_back(
-            MakeShot(folder, "tga 24 packets " + size, ".tga", MakeTga(view, {.type = 10})));
-        shots.push_back(MakeShot(folder, "pcx 8 " + size, ".pcx",
-                                 MakePcx(few, {.paletteType = 2, .realRuns = false})));
-        shots.push_back(MakeShot(folder, "pcx 8 runs " + size, ".pcx", MakePcx(few, {})));
+        for (const SampleImage& image : SampleImages(width, height)) {
+            const std::string name =
+                image.kind + " " + std::to_string(width) + "x" + std::to_string(height);
+            const std::string path = folder + "/" + name + image.extension;
+            std::ofstream(path, std::ios::binary) << image.file;
+            shots.push_back(
+                {name, path, Bytes(image.file.begin(), image.file.end()), image.decoder});
+        }
     }
     return shots;
 }

@@ -2,15 +2,14 @@
 // that have it: host_patch_benchmark [folder for the executable]
 #include <benchmark/benchmark.h>
 
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "benchmarks/large_executable.h"
 #include "benchmarks/other_program.h"
 #include "benchmarks/posix_file_system.h"
 #include "benchmarks/ratio_reporter.h"
@@ -21,41 +20,18 @@ namespace zentar::benchmarks {
 namespace {
 
 constexpr std::size_t kLength = std::size_t{100} * 1024 * 1024;
-constexpr std::string_view kText = "Couldn't write %s.";
-// As far into the file as it can stand.
-constexpr std::size_t kPlace = kLength - 100;
 
 std::string g_game;
 
-// Code and data look like this to a search: all bytes, some of them more often, a few texts.
-std::string Executable() {
-    std::mt19937_64 random(7);
-    std::string bytes;
-    bytes.reserve(kLength);
-    while (bytes.size() < kLength) {
-        const std::uint64_t next = random();
-        if (next % 8 == 0) {
-            bytes += "Couldn't load %s.\n";
-        } else if (next % 8 < 3) {
-            bytes.append(8, '\0');
-        } else {
-            bytes.append(reinterpret_cast<const char*>(&next), sizeof next);
-        }
-    }
-    bytes.resize(kLength);
-    bytes.replace(kPlace, kText.size(), kText);
-    return bytes;
-}
-
 void PutTextBack() {
     std::fstream file(g_game, std::ios::binary | std::ios::in | std::ios::out);
-    file.seekp(kPlace - 1);
-    file << '.' << kText << '\n';
+    file.seekp(static_cast<std::streamoff>(PlaceOfMessage(kLength) - 1));
+    file << '.' << kGameMessage << '\n';
 }
 
 void Patch(benchmark::State& state) {
     PosixFileSystem files;
-    const std::vector<std::string_view> texts = {kText};
+    const std::vector<std::string_view> texts = {kGameMessage};
     for (auto _ : state) {
         if (!PatchGameMessages(files, g_game, texts).Ok()) {
             state.SkipWithError("it failed");
@@ -68,7 +44,7 @@ void Patch(benchmark::State& state) {
 
 void Grep(benchmark::State& state) {
     for (auto _ : state) {
-        RunProgram(state, {"grep", "-c", std::string(kText), g_game}, g_game + ".count");
+        RunProgram(state, {"grep", "-c", std::string(kGameMessage), g_game}, g_game + ".count");
     }
 }
 
@@ -76,7 +52,7 @@ int Run(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     const std::filesystem::path folder = argc > 1 ? argv[1] : ".";
     g_game = (folder / "quake3.exe").string();
-    std::ofstream(g_game, std::ios::binary) << Executable();
+    std::ofstream(g_game, std::ios::binary) << LargeExecutable(kLength);
     for (const auto& [name, run] : {std::pair("grep", &Grep), {"patch", &Patch}}) {
         benchmark::RegisterBenchmark(name, run)
             ->Unit(benchmark::kMillisecond)

@@ -17,13 +17,13 @@
 #include <vector>
 
 #include "benchmarks/large_log.h"
+#include "benchmarks/log_transcript.h"
 #include "benchmarks/other_program.h"
 #include "benchmarks/posix_file_system.h"
 #include "benchmarks/ratio_reporter.h"
 #include "benchmarks/repeated_file.h"
 #include "core/console_lines.h"
 #include "transcripts/name_scan.h"
-#include "transcripts/transcript_writer.h"
 
 namespace zentar::benchmarks {
 
@@ -33,9 +33,6 @@ constexpr std::uint64_t kMegabyte = 1024 * 1024;
 constexpr std::uint64_t kLogLength = 256 * kMegabyte;
 constexpr double kMostMemory = 64;  // megabytes
 
-constexpr const char* kSource = "C:\\Quake III Arena\\baseq3\\games.log";
-constexpr const char* kSite = "https://zentar.example/";
-
 std::string g_log;
 std::string g_ours;
 std::string g_perls;
@@ -44,20 +41,6 @@ void Grep(benchmark::State& state) {
     for (auto _ : state) {
         RunProgram(state, {"grep", "-c", ": ", g_log}, g_log + ".count");
     }
-}
-
-// The 24 names: the speakers, a few of them in the same colour as another, and four who say
-// nothing.
-std::vector<ChosenPlayer> Players() {
-    std::vector<ChosenPlayer> players;
-    for (const std::string_view speaker : kSpeakers) {
-        const auto number = static_cast<ColourRef>(players.size() % 16);
-        players.push_back({std::string(speaker), number * 0x0B1D0E});
-    }
-    for (const char* silent : {"Doom", "Phobos", "Gorre", "Hossman"}) {
-        players.push_back({silent, {}});
-    }
-    return players;
 }
 
 std::string Hex(ColourRef colour) {
@@ -71,8 +54,8 @@ std::string Hex(ColourRef colour) {
 
 void Perl(benchmark::State& state) {
     std::vector<std::string> command = {
-        "perl", ZENTAR_BENCHMARKS "/transcript.pl", g_log, g_perls, kSource, kSite};
-    for (const ChosenPlayer& player : Players()) {
+        "perl", ZENTAR_BENCHMARKS "/transcript.pl", g_log, g_perls, kLogSource, kLogSite};
+    for (const ChosenPlayer& player : PlayersOfLog()) {
         command.push_back(player.name + "=" + (player.colour ? Hex(*player.colour) : ""));
     }
     for (auto _ : state) {
@@ -91,32 +74,12 @@ void Scan(benchmark::State& state) {
     }
 }
 
-void WriteTranscript(ReadableFile& log, const std::string& path) {
-    TranscriptOptions options{.html = true,
-                              .gameMessages = true,
-                              .quake3 = true,
-                              .players = {},
-                              .background = {},
-                              .messages = {},
-                              .source = kSource,
-                              .webSite = kSite};
-    const std::vector<ChosenPlayer> players = Players();
-    std::copy(players.begin(), players.end(), options.players.begin());
-    std::ofstream out(path, std::ios::binary);
-    TranscriptWriter writer(options, [&out](std::string_view text) { out << text; });
-    ConsoleLines lines(log);
-    writer.Begin();
-    while (const auto line = lines.Next()) {
-        writer.Add(*line);
-    }
-    writer.End();
-}
-
 void Transcript(benchmark::State& state) {
     PosixFileSystem files;
     for (auto _ : state) {
         const auto file = files.OpenForReading(g_log);
-        WriteTranscript(*file.Value(), g_ours);
+        std::ofstream out(g_ours, std::ios::binary);
+        WriteLogTranscript(*file.Value(), true, [&out](std::string_view text) { out << text; });
     }
 }
 

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <utility>
 
 namespace zentar {
 
@@ -18,6 +20,8 @@ std::string Native(std::string path) {
 }
 
 FileError LastError() { return errno == ENOENT ? FileError::NotFound : FileError::Other; }
+
+Status StatusOf(int result) { return result == 0 ? Status() : Status(LastError()); }
 
 FileInfo InfoOf(const struct stat& status) {
     return {.length = static_cast<std::uint64_t>(status.st_size),
@@ -58,6 +62,40 @@ class PosixFile : public ReadableFile {
     int file_;
 };
 
+class PosixWritableFile : public WritableFile {
+  public:
+    explicit PosixWritableFile(int file) : file_(file) {}
+    ~PosixWritableFile() override { IgnoreFailure(Close()); }
+    PosixWritableFile(const PosixWritableFile&) = delete;
+    PosixWritableFile& operator=(const PosixWritableFile&) = delete;
+
+    Status Write(std::string_view bytes) override {
+        return write(file_, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size())
+                   ? Status()
+                   : Status(LastError());
+    }
+    Status Flush() override { return StatusOf(fdatasync(file_)); }
+    Status Close() override {
+        const int open = std::exchange(file_, -1);
+        return open < 0 ? Status() : StatusOf(close(open));
+    }
+
+  private:
+    int file_;
+};
+
+int OpenFlags(WriteMode mode) {
+    switch (mode) {
+        case WriteMode::Truncate:
+            return O_CREAT | O_TRUNC;
+        case WriteMode::CreateNew:
+            return O_CREAT | O_EXCL;
+        case WriteMode::Append:
+            break;
+    }
+    return O_CREAT | O_APPEND;
+}
+
 }  // namespace
 
 Status PosixFileSystem::Enumerate(const std::string& folder, const EntryVisitor& visit) {
@@ -85,6 +123,25 @@ Result<std::unique_ptr<ReadableFile>> PosixFileSystem::OpenForReading(const std:
         return LastError();
     }
     return std::unique_ptr<ReadableFile>(std::make_unique<PosixFile>(file));
+}
+
+Result<std::unique_ptr<WritableFile>> PosixFileSystem::OpenForWriting(const std::string& path,
+                                                                      WriteMode mode) {
+    constexpr mode_t kOwnersAlone = 0600;
+    const int file =
+        open(Native(path).c_str(), O_WRONLY | O_CLOEXEC | OpenFlags(mode), kOwnersAlone);
+    if (file < 0) {
+        return LastError();
+    }
+    return std::unique_ptr<WritableFile>(std::make_unique<PosixWritableFile>(file));
+}
+
+Status PosixFileSystem::Replace(const std::string& from, const std::string& to) {
+    return StatusOf(rename(Native(from).c_str(), Native(to).c_str()));
+}
+
+Status PosixFileSystem::Delete(const std::string& path) {
+    return StatusOf(unlink(Native(path).c_str()));
 }
 
 // Through to the disk, as on Windows.

@@ -5,8 +5,8 @@
 
 namespace zentar {
 
-// Takes paths with backslashes, as the program makes them. Of what changes anything,
-// only Overwrite works.
+// Takes paths with backslashes, as the program makes them. Of what changes anything, it writes,
+// overwrites, replaces and deletes files.
 class PosixFileSystem : public FileSystem {
   public:
     Status Enumerate(const std::string& folder, const EntryVisitor& visit) override;
@@ -15,15 +15,14 @@ class PosixFileSystem : public FileSystem {
     Status Overwrite(const std::string& path, std::uint64_t offset,
                      std::string_view bytes) override;
 
-    Result<std::unique_ptr<WritableFile>> OpenForWriting(const std::string& /*path*/,
-                                                         WriteMode /*mode*/) override {
-        return FileError::AccessDenied;
-    }
-    Status ClearAttributes(const std::string& /*path*/) override { return FileError::AccessDenied; }
+    Result<std::unique_ptr<WritableFile>> OpenForWriting(const std::string& path,
+                                                         WriteMode mode) override;
+    Status Replace(const std::string& from, const std::string& to) override;
+    Status Delete(const std::string& path) override;
+
+    // No file that a benchmark makes has any.
+    Status ClearAttributes(const std::string& /*path*/) override { return {}; }
     Status Rename(const std::string& /*from*/, const std::string& /*to*/) override {
-        return FileError::AccessDenied;
-    }
-    Status Replace(const std::string& /*from*/, const std::string& /*to*/) override {
         return FileError::AccessDenied;
     }
     Status Copy(const std::string& /*from*/, const std::string& /*to*/,
@@ -33,7 +32,6 @@ class PosixFileSystem : public FileSystem {
     Result<bool> IsSameFile(const std::string& /*one*/, const std::string& /*other*/) override {
         return FileError::AccessDenied;
     }
-    Status Delete(const std::string& /*path*/) override { return FileError::AccessDenied; }
     Status DeleteOriginal(const std::string& /*original*/, const std::string& /*copy*/) override {
         return FileError::AccessDenied;
     }

@@ -24,8 +24,7 @@ void MakeOnce(const fs::path& folder, const std::function<void()>& make) {
 std::string MakeFolder(const fs::path& folder, int count, const std::string& demo) {
     MakeOnce(folder, [&] {
         for (int i = 0; i < count; ++i) {
-            // So that no order of the names is the order of the folder.
-            const std::string name = "demo" + std::to_string((i * 7919) % count) + ".dm2";
+            const std::string name = SampleName("demo", i, count) + ".dm2";
             std::ofstream(folder / name, std::ios::binary) << demo << i << kLastWords;
         }
     });
@@ -38,9 +37,13 @@ void WriteShot(const fs::path& file, const samples::ShotView& view) {
 
 }  // namespace
 
-std::string LargeDemos(const std::string& base) {
+std::string SampleName(const std::string& stem, int number, int count) {
+    return stem + std::to_string((number * 7919) % count);
+}
+
+std::string LargeDemos(const std::string& base, int count) {
     return MakeFolder(
-        fs::path(base) / "large_demos", 1000,
+        fs::path(base) / "large_demos", count,
         samples::MakeDemo(
             samples::DemoKind::Dm2,
             {.map = "q2dm1", .levelName = "The Edge", .chat = {"Bob: hello"}, .size = 499'000}));
@@ -57,7 +60,7 @@ std::string ManyShots(const std::string& base) {
     const fs::path folder = fs::path(base) / "many_shots";
     MakeOnce(folder, [&folder] {
         for (int i = 0; i < kShots; ++i) {
-            const std::string name = "shot" + std::to_string((i * 7919) % kShots);
+            const std::string name = SampleName("shot", i, kShots);
             std::ofstream(folder / (name + ".tga")) << "x";
             if (i % 2 == 0) {
                 std::ofstream(folder / (name + ".zentar")) << "x";

@@ -100,7 +100,12 @@ void Measure(const fs::path& game, const fs::path& from) {
 
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::puts("windows_installer_benchmark <game folder> <folder of the demos>");
+        std::puts("windows_installer_benchmark <folder of the game> <folder of the demos>");
+        return 2;
+    }
+    // Both are deleted at the end.
+    if (std::filesystem::exists(argv[1]) || std::filesystem::exists(argv[2])) {
+        std::puts("the folders must not exist yet");
         return 2;
     }
     zentar::benchmarks::Measure(argv[1], argv[2]);

@@ -6,12 +6,11 @@
 
 #include <cstdio>
 #include <memory>
-#include <vector>
 
+#include "benchmarks/motley_text.h"
 #include "benchmarks/quiet_windows.h"
 #include "benchmarks/stopwatch.h"
 #include "platform/win32/win32_platform.h"
-#include "q3tools/colour_codes.h"
 #include "q3tools/q3_text_tab.h"
 #include "ui/form_bindings.h"
 #include "ui/form_tables.h"
@@ -22,16 +21,6 @@ namespace zentar::benchmarks {
 namespace {
 
 constexpr int kQ3TextTab = 3;
-
-// Each character in another colour than the one before.
-std::vector<ColouredRun> ColouredText(int characters) {
-    constexpr ColourRef kColours[] = {kQ3Black, kQ3Red, kQ3Green, kQ3Yellow};
-    std::vector<ColouredRun> runs;
-    for (int i = 0; i < characters; ++i) {
-        runs.push_back({std::string(1, static_cast<char>('a' + i % 26)), kColours[i % 4]});
-    }
-    return runs;
-}
 
 void Measure() {
     Win32Platform platform(GetModuleHandleW(nullptr), LayoutControls);
@@ -44,7 +33,7 @@ void Measure() {
     quiet.PumpPending();
     RichTextBox& editor = form->GetRichTextBox(IDC_rtbQ3Text);
     for (const int characters : {40, 10'000}) {
-        editor.SetContent(ColouredText(characters));
+        editor.SetContent(MotleyText(characters));
         quiet.PumpPending();
         const double ours = BestMilliseconds([&] { tab.BuildQ3TextCode(); });
         RichText content;

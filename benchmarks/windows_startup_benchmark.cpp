@@ -49,7 +49,9 @@ fs::path InstallProgram(const fs::path& program, const fs::path& folder) {
     MakeGames(games);
     const fs::path copy = folder / "Zentar" / "zentar.exe";
     fs::create_directories(copy.parent_path());
-    fs::copy_file(program, copy, fs::copy_options::overwrite_existing);
+    // MinGW's copy_file copies over nothing, whatever it is told.
+    fs::remove(copy);
+    fs::copy_file(program, copy);
     std::string ini = "Virgin=0\r\nGame=Quake2\r\n";
     ini += "Q1Folder=" + (games / "Quake").string() + "\\\r\n";
     ini += "Q2Folder=" + (games / "Quake2").string() + "\\\r\n";
