@@ -1,6 +1,6 @@
 #include "fuzz/decoder_check.h"
 
-#include <cstdlib>
+#include "fuzz/require.h"
 
 namespace zentar::fuzz {
 
@@ -8,12 +8,6 @@ namespace {
 
 using nviewlib::testing::Canvas;
 using nviewlib::testing::Direction;
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 nviewlib::RasterMaker Checked(nviewlib::RasterMaker make) {
     return [make = std::move(make)](nviewlib::ImageSize size) {

@@ -2,21 +2,16 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/require.h"
 #include "q3tools/colour_codes.h"
 #include "tests/unit/q3tools/plain_strip.h"
 
 namespace {
 
 using namespace zentar;
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using fuzz::Require;
 
 // Without a caret in the text, stripping its code gives the text back. The OSP mods' black is no
 // code of the game.

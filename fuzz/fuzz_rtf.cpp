@@ -2,10 +2,10 @@
 // is.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "fuzz/require.h"
 #include "platform/rtf/rtf_reader.h"
 #include "platform/rtf/rtf_writer.h"
 #include "platform/rtf/unicode.h"
@@ -13,13 +13,8 @@
 
 namespace {
 
+using zentar::fuzz::Require;
 using Runs = std::vector<zentar::ColouredRun>;
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 // How many characters a text has, each of which the editor can show.
 std::size_t CheckedCount(std::string_view text) {

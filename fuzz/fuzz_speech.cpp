@@ -2,25 +2,20 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "core/console_lines.h"
 #include "fuzz/odd_file.h"
 #include "fuzz/plain_speech.h"
+#include "fuzz/require.h"
 #include "transcripts/name_scan.h"
 #include "transcripts/speech_line.h"
 
 namespace {
 
 using namespace zentar;
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using fuzz::Require;
 
 std::vector<std::string> LinesOf(ReadableFile& file) {
     ConsoleLines lines(file);

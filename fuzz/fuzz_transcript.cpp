@@ -3,28 +3,23 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "fuzz/plain_speech.h"
+#include "fuzz/require.h"
 #include "q3tools/colour_codes.h"
 #include "transcripts/transcript_writer.h"
 
 namespace {
 
 using namespace zentar;
+using fuzz::Require;
 
 constexpr std::string_view kSource = "C:\\qconsole.log";
 constexpr std::string_view kSite = "https://zentar.example/";
 constexpr ColourRef kSpeech = 0x563412;
 constexpr std::string_view kColoured = "<font color=\"123456\">";
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 // The first line holds the names, between NULs.
 std::vector<std::string> NamesIn(std::string_view line) {

@@ -159,6 +159,13 @@ void WriteConfigs(const std::filesystem::path& folder) {
     Write(folder, "game", "\220execing %scode.execing %s\nmore");
 }
 
+void WriteSettings(const std::filesystem::path& folder) {
+    Write(folder, "settings",
+          "// Zentar\r\nGame=Quake3\r\nRemote=c:\\Remote\\\r\nPreset1=7\r\nDemoFilter= = \r\n");
+    Write(folder, "odd",
+          "Game=\nGame=1\rRemote=True\n\n=\nNobody=2\nPreset1= 255 \nDemoFilter=False");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -176,5 +183,6 @@ int main(int argc, char** argv) {
     WriteRichTexts(corpus / "fuzz_rtf");
     WriteConsoles(corpus);
     WriteConfigs(corpus / "fuzz_config");
+    WriteSettings(corpus / "fuzz_settings");
     return 0;
 }

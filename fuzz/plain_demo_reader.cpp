@@ -1,10 +1,9 @@
 #include "fuzz/plain_demo_reader.h"
 
 #include <cctype>
-#include <cstdio>
-#include <cstdlib>
 
 #include "demos/demo_bytes.h"
+#include "fuzz/require.h"
 
 namespace zentar::fuzz {
 
@@ -62,13 +61,6 @@ std::string MapOf(const PlainFile& file) {
         map.pop_back();
     }
     return Lower(map);
-}
-
-void Require(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "differs: %s\n", what);
-        std::abort();
-    }
 }
 
 }  // namespace
