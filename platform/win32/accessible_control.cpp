@@ -1,5 +1,6 @@
 #include "platform/win32/accessible_control.h"
 
+#include <objbase.h>
 #include <oleacc.h>
 
 #include <atomic>
@@ -203,6 +204,20 @@ struct OleaccLibrary {
 };
 
 }  // namespace
+
+void AnnotateName(HWND control, const ControlRow& row) {
+    const std::wstring name = Widen(row.name);
+    if (name.empty()) {
+        return;
+    }
+    if (auto services = Made<IAccPropServices>([](IAccPropServices** made) {
+            return CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
+                                    IID_IAccPropServices, reinterpret_cast<void**>(made));
+        })) {
+        services->SetHwndPropStr(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                 PROPID_ACC_NAME, name.c_str());
+    }
+}
 
 std::optional<LRESULT> AnswerScreenReader(HWND control, const ControlRow& row, WPARAM wParam) {
     const OleaccLibrary& library = OleaccLibrary::Get();

@@ -14,4 +14,12 @@ namespace zentar {
 // answer where the system has no such service. Needs COM on this thread.
 std::optional<LRESULT> AnswerScreenReader(HWND control, const ControlRow& row, WPARAM wParam);
 
+// What WM_GETOBJECT asks for when UI Automation meets a window: UiaRootObjectId, whose header takes
+// in a large part of OLE.
+inline constexpr LONG kUiAutomationAsks = -25;
+
+// Tells the system the row's name, if it has one. UI Automation looks at the system's controls by
+// itself and takes their names from there, not from the answer above. Needs COM on this thread.
+void AnnotateName(HWND control, const ControlRow& row);
+
 }  // namespace zentar

@@ -123,7 +123,11 @@ LRESULT ControlWindow::PassOn(UINT message, WPARAM wParam, LPARAM lParam) const 
 
 std::optional<LRESULT> ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // Others ask by this message, too, whom the system answers.
-    if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT) {
+    const LONG asked = message == WM_GETOBJECT ? static_cast<LONG>(lParam) : 0;
+    if (asked == kUiAutomationAsks && !std::exchange(annotated_, true)) {
+        host_.Ole().Need();
+        AnnotateName(handle_, row_);
+    } else if (asked == OBJID_CLIENT) {
         host_.Ole().Need();
         return AnswerScreenReader(handle_, row_, wParam);
     }

@@ -146,6 +146,7 @@ class ControlWindow {
     WNDPROC system_ = nullptr;  // the window procedure of the control's kind
     ControlEvents events_;
     bool keyboardAsks_ = false;
+    bool annotated_ = false;  // the name is, for screen readers
 };
 
 // Gives a control of the platform's interface the window above.

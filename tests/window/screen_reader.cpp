@@ -2,7 +2,11 @@
 
 #include <oleacc.h>
 
+#include <chrono>
+
+#include "platform/win32/accessible_control.h"
 #include "platform/win32/win32_text.h"
+#include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
 
 namespace zentar::window_tests {
@@ -42,7 +46,10 @@ VARIANT Itself() {
     return child;
 }
 
+// Newer readers first ask for what UI Automation knows, which is the system's to answer.
 ComPointer<IAccessible> Ask(HWND control) {
+    SendMessageTimeoutW(control, WM_GETOBJECT, 0, kUiAutomationAsks, SMTO_NORMAL,
+                        static_cast<UINT>(std::chrono::milliseconds(kPatience).count()), nullptr);
     return nviewlib::Made<IAccessible>([control](IAccessible** object) {
         return AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT),
                                           __uuidof(IAccessible), reinterpret_cast<void**>(object));
