@@ -30,6 +30,12 @@ void WriteDefault(const wchar_t* key, const std::wstring& text) {
                     static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
 }
 
+// The folder of one before may stay for as long as its program still runs.
+int NextNumber() {
+    static int number = 0;
+    return ++number;
+}
+
 // The key that decides what opens them.
 const wchar_t* DecidingKey(Opens what) {
     return what == Opens::WebAddresses ? kAddressCommand : kHtmlExtension;
@@ -39,7 +45,8 @@ const wchar_t* DecidingKey(Opens what) {
 
 StandinBrowser::StandinBrowser(Opens what)
     : folder_(fs::temp_directory_path() /
-              ("zentar browser " + std::to_string(GetCurrentProcessId()))),
+              ("zentar browser " + std::to_string(GetCurrentProcessId()) + " " +
+               std::to_string(NextNumber()))),
       what_(what),
       before_(ReadDefault(DecidingKey(what))) {
     fs::create_directories(folder_);
