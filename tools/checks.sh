@@ -8,19 +8,40 @@ log_of() {  # name
     echo "$logs/${1//[^A-Za-z0-9]/_}.log"
 }
 
-# Runs a command as one check; its output is shown only when it fails.
-check() {  # name command...
-    local name=$1 log began=$SECONDS
+say_check() {  # name status time
+    local log
     log=$(log_of "$1")
-    shift
-    if "$@" >"$log" 2>&1; then
+    if [ "$2" -eq 0 ]; then
         passed=$((passed + 1))
-        echo "ok      $name ($((SECONDS - began)) s)"
+        echo "ok      $1 ($3)"
     else
         failed=$((failed + 1))
-        echo "FAILED  $name ($((SECONDS - began)) s), the whole log is $log:"
+        echo "FAILED  $1 ($3), the whole log is $log:"
         tail -n 40 "$log" | sed 's/^/        /'
     fi
+}
+
+# Runs a command as one check; its output is shown only when it fails.
+check() {  # name command...
+    local name=$1 began=$SECONDS status=0
+    shift
+    "$@" >"$(log_of "$name")" 2>&1 || status=$?
+    say_check "$name" "$status" "$((SECONDS - began)) s"
+}
+
+# Begins a check that takes what time the others leave: many tests wait more than they work.
+# end_check says how it went.
+begin_check() {  # name command...
+    begun=$1
+    shift
+    nice -n 19 "$@" >"$(log_of "$begun")" 2>&1 </dev/null &
+    begun_process=$!
+}
+
+end_check() {
+    local status=0
+    wait "$begun_process" || status=$?
+    say_check "$begun" "$status" 'beside the others'
 }
 
 # Runs a GoogleTest program and counts each of its tests. A program that crashes, hangs or has no
