@@ -54,6 +54,18 @@ TEST_F(Commands, TheDeleteKeyAsksAboutAReadOnlyDemo) {
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
 }
 
+// Expert Mode asks nothing, and the next demo is selected at once.
+TEST_F(Commands, ADeleteKeyThatIsHeldDownDeletesOneDemo) {
+    const ZentarDriver& zentar = Open({"Expert=1", "AutoNextDemo=1"});
+    zentar.ClickItem(IDC_lstDemos, "campaign");
+    zentar.PressKey(VK_DELETE);
+    EXPECT_SOON(zentar.Selected(IDC_lstDemos), "edge final");
+    zentar.RepeatKey(VK_DELETE);
+    EXPECT_EQ(zentar.Selected(IDC_lstDemos), "edge final");
+    EXPECT_EQ(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
+    EXPECT_TRUE(IsHere("edge final"));
+}
+
 TEST_F(Commands, DeleteAllListedLeavesWhatTheFilterHides) {
     const ZentarDriver& zentar =
         Open({"AutoShowAll=0", "DemosAll=0", "DemosText=True", "DemosFilter=Fred"});

@@ -118,6 +118,16 @@ void ZentarDriver::PressKey(WORD key) const {
     Settle();
 }
 
+void ZentarDriver::RepeatKey(WORD key) const {
+    // Posted, since Wine lets go of a key that the display does not know to be down as soon as
+    // another window comes to the front.
+    constexpr LPARAM kWasDown = LPARAM{1} << 30U;
+    for (int repetition = 0; repetition < 3; ++repetition) {
+        PostMessageW(Focused(), WM_KEYDOWN, key, kWasDown | 1);
+        Settle();
+    }
+}
+
 void ZentarDriver::ShowTab(int index) const {
     const HWND tabs = Control(IDC_SSTab1);
     const auto selected = [tabs] { return static_cast<int>(Send(tabs, TCM_GETCURSEL)); };

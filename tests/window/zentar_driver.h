@@ -55,6 +55,8 @@ class ZentarDriver {
     void ClickOn(int id) const;
     void ClickItem(int listBox, const std::string& item) const;
     void PressKey(WORD key) const;
+    // What comes of keeping it down.
+    void RepeatKey(WORD key) const;
     // A tab of the main window, by its position.
     void ShowTab(int index) const;
     // Alt and a letter, then the entry's letter.
