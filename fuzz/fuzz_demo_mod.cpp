@@ -1,24 +1,24 @@
 // The mod that a demo names, which decides where an installed demo is written.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "core/game_text.h"
 #include "demos/demo_mod.h"
 #include "fuzz/fuzz_file.h"
+#include "fuzz/require.h"
 
 namespace {
+
+using zentar::fuzz::Require;
 
 // Joined to the game's folder, a name must not lead out of it.
 void CheckFolderName(const std::string& mod) {
     const std::string name = zentar::GameTextToUtf8(mod);
-    if (zentar::IsFolderName(name) &&
-        (name.find_first_of("\\/:") != std::string::npos || name.find('\0') != std::string::npos ||
-         name == "." || name == "..")) {
-        std::abort();
-    }
+    Require(!zentar::IsFolderName(name) ||
+            (name.find_first_of("\\/:") == std::string::npos &&
+             name.find('\0') == std::string::npos && name != "." && name != ".."));
 }
 
 // What stands between a place and the next terminator, or the end, in as plain a way as can be.
@@ -37,9 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (plain2.ends_with('\\')) {
         plain2.remove_suffix(1);
     }
-    if (mod2 != plain2) {
-        std::abort();
-    }
+    Require(mod2 == plain2, "mod of Quake 2");
     CheckFolderName(mod2);
     constexpr std::string_view kKey = "\\gamename\\";
     const std::size_t key = bytes.find(kKey);
@@ -47,9 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view plain3 = key == std::string_view::npos
                                         ? std::string_view()
                                         : TextFrom(bytes, key + kKey.size(), '\\');
-    if (mod3 != plain3.substr(0, plain3.find('\0'))) {
-        std::abort();
-    }
+    Require(mod3 == plain3.substr(0, plain3.find('\0')), "mod of Quake 3");
     CheckFolderName(mod3);
     return 0;
 }
