@@ -20,22 +20,30 @@ std::string SparePath(const std::string& programFolder) {
 
 // The text of the spare, if zentar.ini is what is left of writing that text over the old one: its
 // beginning, and after a power cut perhaps zeros. One that a user wrote is none, whole or not.
-std::optional<std::string> CutOffText(FileSystem& files, const std::string& path,
-                                      const std::string& spare) {
-    if (!FileExists(files, spare)) {
-        return std::nullopt;
-    }
+Result<std::optional<std::string>> CutOffText(FileSystem& files, const std::string& path,
+                                              const std::string& spare) {
     std::optional<std::string> whole;
+    if (!FileExists(files, spare) || !FileExists(files, path)) {
+        return whole;
+    }
     Result<std::string> text = ReadWholeFile(files, spare, kLongest);
     const Result<std::string> written = ReadWholeFile(files, path, kLongest);
-    if (text.Ok() && written.Ok() && text.Value().ends_with(kSettingsEnd)) {
-        const std::string_view left =
-            std::string_view(written.Value()).substr(0, written.Value().find_last_not_of('\0') + 1);
-        if (left.size() < text.Value().size() && text.Value().starts_with(left)) {
-            whole = std::move(text.Value());
-        }
+    if (!text.Ok() || !written.Ok()) {
+        return text.Ok() ? written.Error() : text.Error();
+    }
+    const std::string_view left =
+        std::string_view(written.Value()).substr(0, written.Value().find_last_not_of('\0') + 1);
+    if (text.Value().ends_with(kSettingsEnd) && left.size() < text.Value().size() &&
+        text.Value().starts_with(left)) {
+        whole = std::move(text.Value());
     }
     return whole;
+}
+
+// While one of the two cannot be read, the spare may be the only whole text.
+bool IsOfNoUse(FileSystem& files, const std::string& path, const std::string& spare) {
+    const Result<std::optional<std::string>> cutOff = CutOffText(files, path, spare);
+    return cutOff.Ok() && !cutOff.Value();
 }
 
 // One that stays is of no use: whoever reads finds the file itself whole.
@@ -63,8 +71,12 @@ Status WriteOver(FileSystem& files, const std::string& path, std::string_view te
 // attempt left is brought to an end first: the spare may be the only whole text.
 Status StoreWithSpare(FileSystem& files, const std::string& path, const std::string& spare,
                       std::string_view text) {
-    if (const std::optional<std::string> cutOff = CutOffText(files, path, spare)) {
-        if (Status finished = WriteOver(files, path, *cutOff); !finished.Ok()) {
+    const Result<std::optional<std::string>> cutOff = CutOffText(files, path, spare);
+    if (!cutOff.Ok()) {
+        return cutOff.Error();
+    }
+    if (cutOff.Value()) {
+        if (Status finished = WriteOver(files, path, *cutOff.Value()); !finished.Ok()) {
             return finished;
         }
     }
@@ -72,7 +84,7 @@ Status StoreWithSpare(FileSystem& files, const std::string& path, const std::str
     if (stored.Ok()) {
         stored = WriteOver(files, path, text);
     }
-    if (stored.Ok() || !CutOffText(files, path, spare)) {
+    if (stored.Ok() || IsOfNoUse(files, path, spare)) {
         DeleteSpare(files, spare);
     }
     return stored;
@@ -84,7 +96,11 @@ Result<std::unique_ptr<ReadableFile>> OpenSettings(FileSystem& files,
                                                    const std::string& programFolder) {
     const std::string path = SettingsPath(programFolder);
     const std::string spare = SparePath(programFolder);
-    return files.OpenForReading(CutOffText(files, path, spare) ? spare : path);
+    const Result<std::optional<std::string>> cutOff = CutOffText(files, path, spare);
+    if (!cutOff.Ok()) {
+        return cutOff.Error();
+    }
+    return files.OpenForReading(cutOff.Value() ? spare : path);
 }
 
 Status StoreSettings(FileSystem& files, const std::string& programFolder, std::string_view text) {

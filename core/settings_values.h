@@ -14,7 +14,7 @@ std::optional<std::uint8_t> ParseByte(std::string_view text);
 // "0" or "1", likewise.
 std::optional<bool> ParseTick(std::string_view text);
 
-// The words True and False, in any case.
+// The words True and False, in any case, likewise.
 std::optional<bool> ParseTruth(std::string_view text);
 
 // The whole number that the text begins with, after blanks; 0 where it begins with none. Nothing

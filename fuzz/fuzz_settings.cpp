@@ -1,5 +1,6 @@
 // zentar.ini as somebody may have left it: lines, values, and what takes its place, beside a plain
 // way to read it.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -66,13 +67,23 @@ Values Read(fuzz::FuzzFolder& folder) {
     return values;
 }
 
+// Whether the word stands there, in whichever case, and nothing but blanks around it.
+bool IsWord(std::string_view text, std::string_view word) {
+    const std::size_t at = std::min(text.find_first_not_of(" \t"), text.size());
+    const std::string_view found = text.substr(at, word.size());
+    return std::equal(found.begin(), found.end(), word.begin(), word.end(),
+                      [](char c, char letter) { return (c | ' ') == letter && c >= 'A'; }) &&
+           text.find_first_not_of(" \t", at + found.size()) == std::string_view::npos;
+}
+
 void CheckValues(std::string_view text) {
     const std::optional<std::uint8_t> byte = ParseByte(text);
     const std::optional<std::int32_t> number = ParseLeadingNumber(text);
     Require(!byte || (number && *number == *byte));
     const std::optional<bool> tick = ParseTick(text);
     Require(!tick || (byte && *byte == (*tick ? 1 : 0)));
-    Require(!ParseTruth(text) || text.size() == (*ParseTruth(text) ? 4U : 5U));
+    const std::optional<bool> truth = ParseTruth(text);
+    Require((truth == true) == IsWord(text, "true") && (truth == false) == IsWord(text, "false"));
 }
 
 }  // namespace

@@ -151,6 +151,22 @@ TEST_F(SettingsStorage, CutOffTwiceTheTextIsOneOfThem) {
     EXPECT_GT(kills, 8);
 }
 
+// Another program holds what an earlier attempt left.
+TEST_F(SettingsStorage, WhatIsHeldAfterACutStaysUntilItCanBeRead) {
+    for (const std::string& held : {kIni, kSpare}) {
+        files = MemoryFileSystem();
+        files.AddFolder(kFolder + "data\\");
+        files.AddFile(kIni, kNew.substr(0, 7));
+        files.AddFile(kSpare, kNew);
+        Protect();
+        files.SetLocked(held);
+        EXPECT_EQ(OpenSettings(files, kFolder).Error(), FileError::InUse);
+        EXPECT_EQ(StoreSettings(files, kFolder, kOld).Error(), FileError::InUse);
+        files.SetLocked(held, false);
+        EXPECT_EQ(Read(), kNew) << held;
+    }
+}
+
 // It could not be deleted, and the file itself has been written since.
 TEST_F(SettingsStorage, AStaleSpareIsOfNoUse) {
     files.AddFile(kSpare, kOld);
