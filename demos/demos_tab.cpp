@@ -86,12 +86,9 @@ bool DemosTab::lstDemos_KeyDown(Key key) {
         case Key::Enter:
             RunCommand([this] { PlayDemo(); });
             return true;
-        case Key::F1:
-        case Key::Space:
-        case Key::Escape:
-            break;
+        default:
+            return false;
     }
-    return false;
 }
 
 void DemosTab::lstDemos_MouseDown() {

@@ -26,8 +26,8 @@ constexpr std::string_view kViewing =
     "right-click it and select \"Show Actual Screenshot\".\r\n"
     "(7) In \"Preview.\" mode there is no full size: pressing Enter only beeps and flashes "
     "\"Preview.\" to point you at the view mode.\r\n"
-    "(8) If the screenshot is larger than your screen, drag it with the mouse.  Press Space, Enter "
-    "or Escape, right-click or double-click to return.\r\n"
+    "(8) If the screenshot is larger than your screen, drag it with the mouse or use the arrow "
+    "keys.  Press Space, Enter or Escape, right-click or double-click to return.\r\n"
     "(9) To see a screenshot's file size, date and dimensions, right-click it and select \"Show "
     "Shot Properties\".  The dimensions are known in \"Real.\" mode only.";
 

@@ -23,7 +23,21 @@
 namespace zentar {
 
 // The keys that event procedures ask about; every other key stays with the control.
-enum class Key : std::uint8_t { F1, F2, F5, Delete, Backspace, Enter, Space, Escape };
+enum class Key : std::uint8_t {
+    F1,
+    F2,
+    F4,
+    F5,
+    Delete,
+    Backspace,
+    Enter,
+    Space,
+    Escape,
+    Left,
+    Right,
+    Up,
+    Down
+};
 
 // The event procedures of one control. A control raises only those that its class names; one that
 // is not set is simply not run.

@@ -1,8 +1,30 @@
 #include "screenshots/full_view.h"
 
+#include <optional>
 #include <utility>
 
 namespace zentar {
+namespace {
+
+constexpr int kArrowStep = 64;
+
+// The way the image goes, so that what lies in the arrow's direction comes into view.
+std::optional<Point> StepOf(Key key) {
+    switch (key) {
+        case Key::Left:
+            return Point{kArrowStep, 0};
+        case Key::Right:
+            return Point{-kArrowStep, 0};
+        case Key::Up:
+            return Point{0, kArrowStep};
+        case Key::Down:
+            return Point{0, -kArrowStep};
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
 
 FullView::FullView(Form& Form3, PictureBox& picFull) : Form3_(Form3), picFull_(picFull) {
     FormEvents form;
@@ -36,6 +58,10 @@ void FullView::Form3_Form_Load() {
 }
 
 bool FullView::picFull_KeyPress(Key key) {
+    if (const std::optional<Point> step = StepOf(key)) {
+        Pull({.place = picFull_.ImagePlace(), .origin = {}, .mouse = {}}, *step);
+        return true;
+    }
     if (key != Key::Space && key != Key::Escape && key != Key::Enter) {
         return false;
     }
@@ -61,16 +87,21 @@ void FullView::picFull_MouseDown(MouseButton button, Point at) {
 }
 
 void FullView::picFull_MouseMove(Point to) {
-    if (!IsDraggable()) {
-        return;
-    }
-    const Drag after = DragTo({.place = picFull_.ImagePlace(), .origin = origin_, .mouse = mouse_},
-                              to, picFull_.Image()->Dimensions(), picFull_.View());
+    const Drag after =
+        Pull({.place = picFull_.ImagePlace(), .origin = origin_, .mouse = mouse_}, to);
     origin_ = after.origin;
     mouse_ = after.mouse;
-    if (after.place != picFull_.ImagePlace()) {
+}
+
+Drag FullView::Pull(const Drag& before, Point to) {
+    if (!IsDraggable()) {
+        return before;
+    }
+    const Drag after = DragTo(before, to, picFull_.Image()->Dimensions(), picFull_.View());
+    if (after.place != before.place) {
         picFull_.MoveImage(after.place);
     }
+    return after;
 }
 
 void FullView::picFull_MouseUp() { picFull_.SetPointer(BoxPointer::Default); }

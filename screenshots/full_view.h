@@ -26,6 +26,7 @@ class FullView {
 
   private:
     bool IsDraggable() const;
+    Drag Pull(const Drag& before, Point to);
 
     Form& Form3_;
     PictureBox& picFull_;

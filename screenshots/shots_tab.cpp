@@ -96,12 +96,9 @@ bool ShotsTab::lstScreenshots_KeyDown(Key key) {
         case Key::Enter:
             EnterOnList();
             return true;
-        case Key::F1:
-        case Key::Space:
-        case Key::Escape:
-            break;
+        default:
+            return false;
     }
-    return false;
 }
 
 void ShotsTab::DeleteByKey() {

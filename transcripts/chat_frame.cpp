@@ -1,5 +1,6 @@
 #include "transcripts/chat_frame.h"
 
+#include <functional>
 #include <utility>
 
 #include "core/console_lines.h"
@@ -18,6 +19,19 @@
 #include "transcripts/transcript_messages.h"
 
 namespace zentar {
+namespace {
+
+// Who has no mouse to double-click with.
+std::function<bool(Key)> DoubleClickKey(const std::function<void()>& doubleClick) {
+    return [doubleClick](Key key) {
+        if (key == Key::F4) {
+            doubleClick();
+        }
+        return key == Key::F4;
+    };
+}
+
+}  // namespace
 
 ChatFrame::ChatFrame(ProgramState& state, const Platform& platform,
                      const ChatFrameControls& controls)
@@ -46,10 +60,12 @@ void ChatFrame::BindBoxes() {
         events.change = [this] { txtPlayer_Change(); };
         events.gotFocus = [&txtPlayer] { txtPlayer.SelectAll(); };
         events.doubleClick = [this, box] { guard_.Run([this, box] { txtPlayer_DblClick(box); }); };
+        events.keyDown = DoubleClickKey(events.doubleClick);
         txtPlayer.SetEvents(std::move(events));
     }
     ControlEvents messages;
     messages.doubleClick = [this] { guard_.Run([this] { txtTranscriptMessages_DblClick(); }); };
+    messages.keyDown = DoubleClickKey(messages.doubleClick);
     controls_.txtTranscriptMessages.SetEvents(std::move(messages));
 }
 

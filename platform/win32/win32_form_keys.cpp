@@ -19,18 +19,27 @@ std::optional<Key> KeyOf(WPARAM virtualKey) {
         WPARAM virtualKey;
         Key key;
     };
-    constexpr std::array<Entry, 8> kKeys = {{{VK_F1, Key::F1},
-                                             {VK_F2, Key::F2},
-                                             {VK_F5, Key::F5},
-                                             {VK_DELETE, Key::Delete},
-                                             {VK_BACK, Key::Backspace},
-                                             {VK_RETURN, Key::Enter},
-                                             {VK_SPACE, Key::Space},
-                                             {VK_ESCAPE, Key::Escape}}};
+    constexpr std::array<Entry, 13> kKeys = {{{VK_F1, Key::F1},
+                                              {VK_F2, Key::F2},
+                                              {VK_F4, Key::F4},
+                                              {VK_F5, Key::F5},
+                                              {VK_DELETE, Key::Delete},
+                                              {VK_BACK, Key::Backspace},
+                                              {VK_RETURN, Key::Enter},
+                                              {VK_SPACE, Key::Space},
+                                              {VK_ESCAPE, Key::Escape},
+                                              {VK_LEFT, Key::Left},
+                                              {VK_RIGHT, Key::Right},
+                                              {VK_UP, Key::Up},
+                                              {VK_DOWN, Key::Down}}};
     const auto* at = std::find_if(kKeys.begin(), kKeys.end(), [virtualKey](const Entry& entry) {
         return entry.virtualKey == virtualKey;
     });
     return at == kKeys.end() ? std::nullopt : std::optional<Key>(at->key);
+}
+
+bool IsArrow(Key key) {
+    return key == Key::Left || key == Key::Right || key == Key::Up || key == Key::Down;
 }
 
 // The lower left corner of the selected entry, if it can be seen.
@@ -66,8 +75,9 @@ bool Win32Form::OnKeyDown(const MSG& message) {
         return true;
     }
     // A key that is held down counts once: it would else delete, or play, one file after another.
+    // Arrows only move.
     const std::optional<Key> known = KeyOf(key);
-    if (known && !repeated && OnProgramKey(*known, control)) {
+    if (known && (!repeated || IsArrow(*known)) && OnProgramKey(*known, control)) {
         return true;
     }
     switch (key) {

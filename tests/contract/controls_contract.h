@@ -148,6 +148,7 @@ class ControlsContract : public testing::TestWithParam<ControlsWorldMaker> {
     void NoteClicks(int id, const std::string& name);
     ControlEvents Noting(const std::string& name);
     void Note(const std::string& what) { events_.push_back(what); }
+    static std::string NoteOf(Key key) { return "key " + std::to_string(static_cast<int>(key)); }
     // The window came to the front. A window manager may bring it there twice in a row.
     void NoteActivation(const std::string& window);
     // What was noted since the last call.

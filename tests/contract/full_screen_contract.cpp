@@ -47,9 +47,10 @@ TEST_P(FullScreenContract, ADoubleClickAndTheKeysReachThePicture) {
         const Noted clicks = Events();
         ASSERT_FALSE(clicks.empty());
         EXPECT_EQ(clicks.back(), "double click");
-        for (const Key key : {Key::Space, Key::Escape, Key::Enter}) {
+        for (const Key key :
+             {Key::Space, Key::Escape, Key::Enter, Key::Left, Key::Right, Key::Up, Key::Down}) {
             World().Press(FullForm(), key);
-            EXPECT_EQ(Events(), Noted{"key " + std::to_string(static_cast<int>(key))});
+            EXPECT_EQ(Events(), Noted{NoteOf(key)});
             EXPECT_TRUE(World().Shown(FullForm()));
         }
         EXPECT_TRUE(Full().HasFocus());

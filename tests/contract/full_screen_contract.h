@@ -53,7 +53,7 @@ class FullScreenContract : public ControlsContract {
         ControlEvents events;
         events.doubleClick = [this] { Note("double click"); };
         events.keyDown = [this](Key key) {
-            Note("key " + std::to_string(static_cast<int>(key)));
+            Note(NoteOf(key));
             return true;
         };
         return events;

@@ -222,7 +222,7 @@ TEST_P(RichTextContract, KeysAreToldAndUsedUpAsInOtherBoxes) {
     bool use = true;
     ControlEvents events;
     events.keyDown = [&](Key key) {
-        Note("key " + std::to_string(static_cast<int>(key)));
+        Note(NoteOf(key));
         return use;
     };
     box.SetEvents(events);
@@ -232,7 +232,7 @@ TEST_P(RichTextContract, KeysAreToldAndUsedUpAsInOtherBoxes) {
     use = false;
     World().Press(Main(), Key::Backspace);
     EXPECT_EQ(box.Text(), "a");
-    EXPECT_EQ(Events(), (Noted{"key 4", "key 4"}));
+    EXPECT_EQ(Events(), Noted(2, NoteOf(Key::Backspace)));
 }
 
 TEST_P(RichTextContract, TheFocusComesByAClickAndGoesWhenTheBoxIsDisabled) {

@@ -23,8 +23,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 WPARAM VirtualKeyOf(Key key) {
-    constexpr WPARAM kKeys[] = {VK_F1,   VK_F2,     VK_F5,    VK_DELETE,
-                                VK_BACK, VK_RETURN, VK_SPACE, VK_ESCAPE};
+    constexpr WPARAM kKeys[] = {VK_F1,    VK_F2,     VK_F4,    VK_F5,     VK_DELETE,
+                                VK_BACK,  VK_RETURN, VK_SPACE, VK_ESCAPE, VK_LEFT,
+                                VK_RIGHT, VK_UP,     VK_DOWN};
     return kKeys[static_cast<std::size_t>(key)];
 }
 
@@ -77,12 +78,7 @@ class Win32ControlsWorld : public ControlsWorld {
         return form;
     }
 
-    void PumpPending() override {
-        ThePlatform().Services().windows.PumpPending();
-        // The main window's end would end the message loop for the tests after this one, too.
-        MSG quit{};
-        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    }
+    void PumpPending() override { zentar::PumpPending(); }
 
     void Settle() override { zentar::Settle(); }
 
@@ -90,7 +86,7 @@ class Win32ControlsWorld : public ControlsWorld {
                      const std::function<bool()>& condition) override {
         const auto end = Clock::now() + kPatience;
         while (!condition() && Clock::now() < end) {
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, 60, QS_ALLINPUT);
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT);
             PumpPending();
         }
         EXPECT_TRUE(condition());

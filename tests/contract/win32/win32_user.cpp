@@ -132,16 +132,19 @@ void CALLBACK TryAgain(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD 
 
 }  // namespace
 
+void PumpPending() {
+    ThePlatform().Services().windows.PumpPending();
+    // The main window's end would end the message loop for the tests after this one, too.
+    MSG quit{};
+    PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+}
+
 void Settle() {
-    constexpr DWORD kQuietMilliseconds = 60;
     // Some systems' visual styles never come to rest.
     constexpr DWORD kLongest = 2000;
     const DWORD start = GetTickCount();
     do {
-        ThePlatform().Services().windows.PumpPending();
-        // The main window's end would end the message loop for the tests after this one, too.
-        MSG quit{};
-        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+        PumpPending();
     } while (GetTickCount() - start < kLongest &&
              MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) !=
                  WAIT_TIMEOUT);

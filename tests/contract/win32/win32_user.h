@@ -39,6 +39,11 @@ void PostText(HWND window, std::string_view text);
 
 // What has not come after this time never will.
 inline constexpr auto kPatience = std::chrono::seconds(20);
+// What nothing came in for so long is quiet.
+inline constexpr DWORD kQuietMilliseconds = 60;
+
+// Handles what has come.
+void PumpPending();
 
 // Runs the message loop until nothing comes; the window manager answers a shown or closed window
 // only some time later.

@@ -68,6 +68,41 @@ TEST_F(FullViewTest, TheScreenIsCoveredByAWindowOfItsOwn) {
     EXPECT_EQ(FullViewTable().controls[0].cursor, IDC_CURSOR_DRAG);
 }
 
+TEST_F(FullViewTest, ArrowKeysShowWhatLiesInTheirDirection) {
+    Show({2048, 1536}, [this] {
+        form_->UserKey(Key::Right);
+        EXPECT_EQ(Box().ImagePlace(), (Point{-512 - 64, -384}));
+        form_->UserKey(Key::Down);
+        EXPECT_EQ(Box().ImagePlace(), (Point{-512 - 64, -384 - 64}));
+        form_->UserKey(Key::Left);
+        form_->UserKey(Key::Up);
+        EXPECT_EQ(Box().ImagePlace(), (Point{-512, -384}));
+        for (int press = 0; press < 9; ++press) {
+            form_->UserKey(Key::Left);
+            form_->UserKey(Key::Down);
+        }
+        EXPECT_EQ(Box().ImagePlace(), (Point{0, 768 - 1536}));
+    });
+}
+
+TEST_F(FullViewTest, ArrowKeysDoNotTakeADragFromTheMouse) {
+    Show({2048, 1536}, [this] {
+        Press({500, 500});
+        DragTo({490, 500});
+        form_->UserKey(Key::Right);
+        DragTo({480, 500});
+        EXPECT_EQ(Box().ImagePlace(), (Point{-512 - 10 - 64 - 10, -384}));
+    });
+}
+
+TEST_F(FullViewTest, ArrowKeysLeaveASmallShotInTheMiddle) {
+    Show({640, 480}, [this] {
+        form_->UserKey(Key::Right);
+        form_->UserKey(Key::Up);
+        EXPECT_EQ(Box().ImagePlace(), (Point{192, 144}));
+    });
+}
+
 TEST_F(FullViewTest, ThePictureIsNotKeptAfterwardsAndTheNextOneStartsAnew) {
     Show({2048, 1536}, [this] {
         Press({500, 500});

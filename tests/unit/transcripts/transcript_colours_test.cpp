@@ -90,6 +90,18 @@ TEST_F(TranscriptColoursTest, CancelChangesNothing) {
     EXPECT_EQ(state.settings.PlayerColour[1], "");
 }
 
+TEST_F(TranscriptColoursTest, F4DoesTheSame) {
+    os.windows.ExpectColour(kBlack, kRed);
+    Box(2).SetFocus();
+    form->UserKey(Key::F4);
+    EXPECT_EQ(state.settings.PlayerColour[1], "255");
+    os.windows.ExpectColour(kBlack, 0x00FF00);
+    MessagesBox().SetFocus();
+    form->UserKey(Key::F2);
+    form->UserKey(Key::F4);
+    EXPECT_EQ(MessagesBox().Foreground(), Colour(ColourRef{0x00FF00}));
+}
+
 TEST_F(TranscriptColoursTest, WithoutHtmlTheyDoNothing) {
     UseHtml(false);
     DoubleClick(1);
