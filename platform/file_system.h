@@ -82,7 +82,7 @@ class FileSystem {
     virtual Status Rename(const std::string& from, const std::string& to) = 0;
     // Puts `from` in the place of `to` in one step: whatever happens, `to` is either the old file
     // or the new one. `to` need not exist. Both are in one folder. Refuses a read-only `to`. Who
-    // may read and write `to` stays as it was.
+    // may read and write `to` stays as it was, as far as the system allows.
     virtual Status Replace(const std::string& from, const std::string& to) = 0;
     // Writes bytes into a file from that offset on, in one piece and through to the disk; the
     // others stay as they are. What goes beyond its end makes it longer. Fails with NotFound when

@@ -200,17 +200,20 @@ Status Win32FileSystem::Replace(const std::string& from, const std::string& to) 
     if (!MayBeOverwritten(*target)) {
         return FileError::AccessDenied;
     }
-    FileRights rights = RightsOf(*target);
+    // A temporary file's rights are those of its folder alone. It gets the target's before it takes
+    // the place, so that there is no moment in which others may read what they could not.
+    FileRights own = RightsOf(*source);
+    SetRights(*source, RightsOf(*target));
     // Not ReplaceFile: it takes two steps, and can leave the target away after the first.
     const Status replaced = Outcome(MoveFileExW(
         source->c_str(), target->c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
     if (replaced.Ok()) {
-        // The temporary file's are those of its folder alone.
-        SetRights(*target, std::move(rights));
-    } else if (replaced.Error() == FileError::AccessDenied && IsHeldElsewhere(*target)) {
-        return FileError::InUse;
+        return replaced;
     }
-    return replaced;
+    // The target's may keep its maker from deleting it.
+    SetRights(*source, std::move(own));
+    const bool held = replaced.Error() == FileError::AccessDenied && IsHeldElsewhere(*target);
+    return held ? FileError::InUse : replaced;
 }
 
 Status Win32FileSystem::Overwrite(const std::string& path, std::uint64_t offset,
