@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/file_deletion.h"
 #include "core/file_name.h"
 
 namespace zentar {
@@ -15,8 +16,7 @@ constexpr std::string_view kUnfinished = "zentar-copy.tmp";
 
 void Remove(FileSystem& files, const std::string& unfinished) {
     // Usually there is none. One that cannot go makes the copy fail, which is told.
-    IgnoreFailure(files.ClearAttributes(unfinished));
-    IgnoreFailure(files.Delete(unfinished));
+    IgnoreFailure(ForceDelete(files, unfinished));
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 namespace zentar {
 
-// Hidden and read-only files go, too: of a read-only one the user has been asked before.
+// Hidden and read-only files go, too: of a read-only one of his own the user has been asked before.
 Status ForceDelete(FileSystem& files, const std::string& path);
 
 }  // namespace zentar

@@ -6,11 +6,12 @@
 
 namespace zentar {
 
-inline constexpr std::string_view kVersionLine = "Zentar v0.99 BETA";
+// The build defines ZENTAR_VERSION_TEXT, ZENTAR_WEB_SITE and ZENTAR_MAP_SEARCH.
+inline constexpr const char* kVersion = "v" ZENTAR_VERSION_TEXT " BETA";
+inline constexpr std::string_view kVersionLine = "Zentar v" ZENTAR_VERSION_TEXT " BETA";
 inline constexpr std::string_view kAuthors = "The Zentar developers";
-// Set at build time with -DZENTAR_WEB_SITE=…
 inline constexpr std::string_view kWebSite = ZENTAR_WEB_SITE;
-// A web search, up to its parameter that takes the words. Set with -DZENTAR_MAP_SEARCH=…
+// A web search, up to its parameter that takes the words.
 inline constexpr std::string_view kMapSearch = ZENTAR_MAP_SEARCH;
 
 // In the files that the program makes.

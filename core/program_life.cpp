@@ -1,5 +1,6 @@
 #include "core/program_life.h"
 
+#include "core/file_deletion.h"
 #include "core/game_folders.h"
 #include "core/messages.h"
 #include "core/text.h"
@@ -93,10 +94,8 @@ void ProgramLife::SaveSettingsUnlessUnread() {
 
 void ProgramLife::RemoveTempFiles() {
     for (const char* name : {"zentar-tmp.gif", "zentar-tmp.htm", "zentar-help.htm"}) {
-        const std::string path = state_.WindowsFolder + name;
         // Usually they are not there; one that another program holds goes the next time.
-        IgnoreFailure(platform_.files.ClearAttributes(path));
-        IgnoreFailure(platform_.files.Delete(path));
+        IgnoreFailure(ForceDelete(platform_.files, state_.WindowsFolder + name));
     }
     // The game writes this one; it must only not be read-only.
     IgnoreFailure(platform_.files.ClearAttributes(state_.games[0].BaseModPath + "zentar.cfg"));

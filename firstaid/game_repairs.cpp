@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/file_copy.h"
+#include "core/file_deletion.h"
 #include "core/file_reading.h"
 #include "core/program_info.h"
 #include "core/text.h"
@@ -52,8 +53,7 @@ Status DeleteOrTakeBack(FileSystem& files, const FolderEntry& stray, const std::
         deleted = files.DeleteOriginal(from, to);
     }
     if (!deleted.Ok() && FileExists(files, from)) {
-        IgnoreFailure(files.ClearAttributes(to));
-        IgnoreFailure(files.Delete(to));
+        IgnoreFailure(ForceDelete(files, to));
     }
     return deleted;
 }

@@ -9,6 +9,7 @@
 #include "platform/rtf/rtf_reader.h"
 #include "platform/rtf/rtf_writer.h"
 #include "platform/rtf/unicode.h"
+#include "platform/utf8.h"
 #include "tests/unit/rtf/plain_rtf_reader.h"
 
 namespace {

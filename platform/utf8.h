@@ -30,6 +30,9 @@ inline void AppendUtf8(std::string& text, char32_t point) {
     }
 }
 
+// Stands for bytes that are none.
+inline constexpr char32_t kReplacementCharacter = 0xFFFD;
+
 struct Utf8Character {
     char32_t point = 0;
     std::size_t length = 0;  // in bytes

@@ -1,5 +1,6 @@
 // Form1, the splash window.
 
+#include "core/program_info.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
 
@@ -15,7 +16,7 @@ const FormTable& SplashTable() {
         {.id = IDC_labVersion,
          .kind = ControlKind::Label,
          .rect = {16, 64, 268, 18},
-         .caption = "v0.99 BETA",
+         .caption = kVersion,
          .flags = Centred},
     };
     static const FormTable table = {.id = IDW_Form1,

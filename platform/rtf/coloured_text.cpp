@@ -7,6 +7,7 @@
 #include "platform/utf8.h"
 
 namespace zentar {
+
 bool StandsAsBlank(char32_t point) {
     constexpr char32_t kLineSeparator = 0x2028;
     constexpr char32_t kParagraphSeparator = 0x2029;

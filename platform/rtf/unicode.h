@@ -5,9 +5,6 @@
 
 namespace zentar {
 
-// Stands for what is no character.
-inline constexpr char32_t kReplacementCharacter = 0xFFFD;
-
 // Takes the first character off a text that is not empty. Of bytes that are no UTF-8 it takes one,
 // which becomes U+FFFD.
 char32_t TakeUtf8(std::string_view& text);

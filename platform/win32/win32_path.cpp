@@ -103,10 +103,15 @@ std::optional<std::wstring> NativePath(std::string_view path) {
     return Join(std::wstring(kLocalPrefix).append(whole.substr(0, 3)), Names(whole.substr(3)));
 }
 
+std::wstring WithoutPrefix(std::wstring_view path) {
+    if (path.starts_with(kSharePrefix)) {
+        return std::wstring(L"\\\\").append(path.substr(kSharePrefix.size()));
+    }
+    return std::wstring(path.substr(path.starts_with(kLocalPrefix) ? kLocalPrefix.size() : 0));
+}
+
 std::wstring PlainPath(const std::wstring& nativePath) {
-    const bool onShare = nativePath.starts_with(kSharePrefix);
-    const std::size_t prefix = onShare ? kSharePrefix.size() : kLocalPrefix.size();
-    std::wstring plain = (onShare ? L"\\\\" : L"") + nativePath.substr(prefix);
+    const std::wstring plain = WithoutPrefix(nativePath);
     std::array<wchar_t, MAX_PATH> read{};
     const DWORD length = GetFullPathNameW(plain.c_str(), MAX_PATH, read.data(), nullptr);
     const bool same = length < read.size() && std::wstring_view(read.data(), length) == plain;

@@ -14,6 +14,9 @@ namespace zentar {
 // so that another file would be meant.
 std::optional<std::wstring> NativePath(std::string_view path);
 
+// A path that may be in the system's own form, without what makes it that.
+std::wstring WithoutPrefix(std::wstring_view path);
+
 // A native path as other programs know it ("C:\..."), of which the old ones take no other form. The
 // native path itself where Windows would read that as something else, or finds it too long.
 std::wstring PlainPath(const std::wstring& nativePath);

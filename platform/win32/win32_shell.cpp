@@ -89,18 +89,9 @@ Status OpenByAssociation(const std::wstring& what, const wchar_t* folder, Win32S
 }  // namespace
 
 std::string Win32Shell::ProgramFolder() {
-    const std::wstring path = ProgramPath();
-    std::wstring_view folder(path);
-    folder = folder.substr(0, folder.rfind(L'\\') + 1);
     // A program may have been started by the system's own form of its path.
-    constexpr std::wstring_view kShare = LR"(\\?\UNC)";
-    constexpr std::wstring_view kDrive = LR"(\\?\)";
-    if (folder.starts_with(kShare)) {
-        return "\\" + Narrow(WithoutLastSeparator(folder.substr(kShare.size())));
-    }
-    if (folder.starts_with(kDrive)) {
-        folder.remove_prefix(kDrive.size());
-    }
+    std::wstring folder = WithoutPrefix(ProgramPath());
+    folder.resize(folder.rfind(L'\\') + 1);
     return Narrow(WithoutLastSeparator(folder));
 }
 

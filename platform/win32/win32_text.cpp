@@ -9,8 +9,6 @@
 namespace zentar {
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-
 void AppendUtf16(char32_t point, std::wstring& into) {
     if (point < 0x10000) {
         into.push_back(static_cast<wchar_t>(point));
@@ -27,7 +25,7 @@ void WidenInto(std::string_view utf8, std::wstring& into) {
     into.reserve(utf8.size());
     while (!utf8.empty()) {
         const std::optional<Utf8Character> first = FirstUtf8(utf8);
-        AppendUtf16(first ? first->point : kReplacement, into);
+        AppendUtf16(first ? first->point : kReplacementCharacter, into);
         utf8.remove_prefix(first ? first->length : 1);
     }
 }

@@ -87,7 +87,7 @@ bool FileBytes::Read(std::string_view path) {
 
 bool WriteImageFile(std::string_view path, std::span<const std::uint8_t> bytes) {
     const std::wstring native = NativePath(path);
-    const std::wstring beside = native + L".new";
+    const std::wstring beside = native + L".zentar-new";
     Handle file = IsReadOnly(native) ? nullptr : Open(beside, GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) {
         return false;

@@ -28,8 +28,8 @@ class FileBytes {
     std::size_t size_ = 0;
 };
 
-// Writes a file, over one that is there: first under its name and ".new", so that one that was
-// there is as it was when this gives false.
+// Writes a file, over one that is there: first under its name and ".zentar-new", so that one
+// that was there is as it was when this gives false.
 [[nodiscard]] bool WriteImageFile(std::string_view path, std::span<const std::uint8_t> bytes);
 
 }  // namespace nviewlib

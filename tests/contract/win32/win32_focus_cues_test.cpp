@@ -1,6 +1,9 @@
 // Windows hides where the focus is from who uses the mouse.
 #include <windows.h>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <vector>
 

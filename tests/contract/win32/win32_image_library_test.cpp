@@ -222,7 +222,7 @@ TEST_F(NViewLib, AFileThatCannotBeWrittenWholeLeavesTheOlderOne) {
     ASSERT_TRUE(VirtualProtect(bytes + kPage, kPage, PAGE_NOACCESS, &before));
     EXPECT_FALSE(nviewlib::WriteImageFile(path, {bytes, 2 * kPage}));
     EXPECT_EQ(BytesOf(Widen(path)), "the older one");
-    EXPECT_FALSE(fs::exists(Widen(path + ".new")));
+    EXPECT_FALSE(fs::exists(Widen(path + ".zentar-new")));
     VirtualFree(bytes, 0, MEM_RELEASE);
 }
 
@@ -237,7 +237,7 @@ TEST_F(NViewLib, AFileThatAnotherProgramHoldsStaysAsItWas) {
         EXPECT_FALSE(Library().SaveAsJpg(80, path));
     }
     EXPECT_EQ(BytesOf(Widen(path)), "the older one");
-    EXPECT_FALSE(fs::exists(Widen(path + ".new")));
+    EXPECT_FALSE(fs::exists(Widen(path + ".zentar-new")));
 }
 
 TEST_F(NViewLib, FoldersDevicesAndWrongPathsAreNoImages) {
@@ -268,7 +268,9 @@ TEST_F(NViewLib, AThousandImagesLeaveNothingBehind) {
     const std::size_t memory = MemoryNow();
     for (int i = 0; i < 250; ++i)
         round();
-    EXPECT_LE(HandlesOf(GetCurrentProcess()), handles);
+    // The system may start a thread of its own meanwhile; a leak would be hundreds.
+    constexpr std::size_t kOfTheSystem = 32;
+    EXPECT_LE(HandlesOf(GetCurrentProcess()), handles + kOfTheSystem);
     EXPECT_EQ(UniqueBitmap::Live(), bitmaps);
     // A single image is 230,400 bytes.
     EXPECT_LT(MemoryNow(), memory + (std::size_t{4} << 20U));

@@ -9,6 +9,15 @@
 
 namespace zentar {
 
+TEST(WithoutPrefix, IsAPathInWhicheverForm) {
+    EXPECT_EQ(WithoutPrefix(LR"(\\?\C:\Zentar\zentar.exe)"), LR"(C:\Zentar\zentar.exe)");
+    EXPECT_EQ(WithoutPrefix(LR"(\\?\UNC\server\share\zentar.exe)"),
+              LR"(\\server\share\zentar.exe)");
+    for (const std::wstring path : {LR"(C:\Zentar\zentar.exe)", LR"(\\server\share\zentar.exe)"}) {
+        EXPECT_EQ(WithoutPrefix(path), path);
+    }
+}
+
 TEST(PlainPath, IsWithoutTheSystemsPrefix) {
     EXPECT_EQ(PlainPath(LR"(\\?\C:\Quake 2\quake2.exe)"), LR"(C:\Quake 2\quake2.exe)");
     EXPECT_EQ(PlainPath(LR"(\\?\C:\)"), LR"(C:\)");
