@@ -15,7 +15,7 @@ Function ${un}NameEntry
     ${If} $1 > 0
         StrCpy $INSTDIR $0
     ${EndIf}
-    ${If} $INSTDIR == "$PROGRAMFILES64\Zentar"
+    ${If} $INSTDIR == "${USUAL_FOLDER}"
         StrCpy $Entry "Zentar"
     ${Else}
         ; A key's name cannot hold a backslash.
@@ -30,6 +30,7 @@ again:
     ${IfNot} ${FileExists} "$1"
         Return
     ${EndIf}
+    System::Call 'kernel32::GetFileAttributesW(w r1) i .r3'
     SetFileAttributes "$1" NORMAL
     ClearErrors
     FileOpen $0 "$1" a
@@ -37,6 +38,7 @@ again:
         FileClose $0
         Return
     ${EndIf}
+    System::Call 'kernel32::SetFileAttributesW(w r1, i r3)'
     MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$2" /SD IDCANCEL IDRETRY again
     SetErrorLevel ${RUNNING_EXIT_CODE}
     Quit

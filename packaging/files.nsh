@@ -98,7 +98,27 @@ Function un.DeleteProgram
     ${EndIf}
 FunctionEnd
 
-; A design under its temporary name may be all that there is of it.
+; Goes through the designs: $2 becomes their number, and those of $3 = 1 are deleted. One under its
+; temporary name may be all that there is of it. By the ends of their names, since a pattern would
+; find files by their short names as well: "clan.ini_old" by "CLAN~1.INI".
+Function un.VisitDesigns
+    StrCpy $2 0
+    FindFirst $0 $1 "$INSTDIR\data\q3text\*"
+    ${DoWhile} $1 != ""
+        StrCpy $4 $1 "" -4
+        StrCpy $5 $1 "" -15
+        ${If} $4 == ".ini"
+        ${OrIf} $5 == ".ini.zentar-new"
+            IntOp $2 $2 + 1
+            ${If} $3 = 1
+                Delete "$INSTDIR\data\q3text\$1"
+            ${EndIf}
+        ${EndIf}
+        FindNext $0 $1
+    ${Loop}
+    FindClose $0
+FunctionEnd
+
 Function un.DeleteDesigns
     Push "$INSTDIR\data"
     Call un.IsOwnFolder
@@ -108,8 +128,8 @@ Function un.DeleteDesigns
     Pop $1
     ${If} $0 = 1
     ${AndIf} $1 = 1
-        Delete "$INSTDIR\data\q3text\*.ini"
-        Delete "$INSTDIR\data\q3text\*.ini.zentar-new"
+        StrCpy $3 1
+        Call un.VisitDesigns
     ${EndIf}
 FunctionEnd
 
@@ -134,6 +154,24 @@ Function un.DeleteShortcut
     ${EndIf}
 FunctionEnd
 
+; The folders of the designs, if they are empty. One that leads to somewhere else would go however
+; full that is.
+Function un.RemoveData
+    Push "$INSTDIR\data"
+    Call un.IsOwnFolder
+    Pop $0
+    Push "$INSTDIR\data\q3text"
+    Call un.IsOwnFolder
+    Pop $1
+    ${If} $0 = 1
+    ${AndIf} $1 = 1
+        RMDir "$INSTDIR\data\q3text"
+    ${EndIf}
+    ${If} $0 = 1
+        RMDir "$INSTDIR\data"
+    ${EndIf}
+FunctionEnd
+
 ; The uninstaller itself, once the one that was started has ended, and the folders that are empty.
 ; Not when setup has put a new copy there meanwhile.
 Function un.RemoveRest
@@ -150,12 +188,6 @@ Function un.RemoveRest
         Sleep 100
         IntOp $1 $1 + 1
     ${Loop}
-    Push "$INSTDIR\data"
-    Call un.IsOwnFolder
-    Pop $0
-    ${If} $0 = 1
-        RMDir "$INSTDIR\data\q3text"
-        RMDir "$INSTDIR\data"
-    ${EndIf}
+    Call un.RemoveData
     RMDir "$INSTDIR"
 FunctionEnd

@@ -5,7 +5,8 @@
 ;   setup:     /S silent, /D=<folder> as the last argument, without quotation marks
 ;   uninstall: /S silent, /DESIGNS deletes the designs of coloured texts, too
 ;
-; Exit codes of both: 0 done, 1 left by the user, 2 a step failed, 3 Zentar is running.
+; Exit codes of both: 0 done, 1 left by the user, 2 a step failed, 3 Zentar is running, or
+; another copy of it uses an older library.
 ; The uninstaller works from a copy of itself, so that it can delete itself, and what started it
 ; does not wait for that copy. With _?=<folder> as the last argument it works where it is, and its
 ; exit code tells the outcome; that is what the quiet command of "Apps" does.
@@ -19,7 +20,8 @@ RequestExecutionLevel admin
 ManifestDPIAware PerMonitor
 ManifestLongPathAware true
 ManifestSupportedOS Win10
-InstallDir "$PROGRAMFILES64\Zentar"
+!define USUAL_FOLDER "$PROGRAMFILES64\Zentar"
+InstallDir "${USUAL_FOLDER}"
 BrandingText "Zentar ${VERSION}"
 SpaceTexts none
 ShowInstDetails nevershow
@@ -84,6 +86,20 @@ Var Entry
 
 ; --- Setup ---
 
+; Instead of a folder that cannot be, NSIS takes the usual one, which nobody asked for ($1).
+Function RefuseOtherFolder
+    ${If} $INSTDIR == "${USUAL_FOLDER}"
+        StrCpy $2 $1 "" -1
+        ${If} $2 == "\"
+            StrCpy $1 $1 -1
+        ${EndIf}
+        System::Call 'kernel32::GetFullPathNameW(w r1, i ${NSIS_MAX_STRLEN}, w .r2, p 0)'
+        ${If} $2 != "${USUAL_FOLDER}"
+            !insertmacro Fail "The folder $1 could not be made."
+        ${EndIf}
+    ${EndIf}
+FunctionEnd
+
 ; A copy that is installed is upgraded where it is, unless the command line says otherwise, in
 ; which a folder stands behind a capital D only.
 Function FindInstalledCopy
@@ -91,6 +107,7 @@ Function FindInstalledCopy
     ClearErrors
     ${GetOptionsS} $0 "/D=" $1
     ${IfNot} ${Errors}
+        Call RefuseOtherFolder
         Return
     ${EndIf}
     StrCpy $0 0
@@ -222,7 +239,9 @@ Function un.ChooseDesigns
 FunctionEnd
 
 Function un.AskOnlyWithDesigns
-    ${IfNot} ${FileExists} "$INSTDIR\data\q3text\*.ini"
+    StrCpy $3 0
+    Call un.VisitDesigns
+    ${If} $2 = 0
         Abort
     ${EndIf}
 FunctionEnd

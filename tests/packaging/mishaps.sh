@@ -176,6 +176,15 @@ AShortcutThatCannotBeWrittenIsAFailure() {
     remove_copy "$first" "$first_on_host"
 }
 
+# Uninstalls the first copy with its designs; what a way in its folder leads to stays, and the way.
+uninstall_all_but() {  # elsewhere contents left
+    uninstall "$first" /DESIGNS
+    expect_that 'the uninstaller goes' eventually is_gone "$first_on_host/uninstall.exe"
+    expect_that 'the copy of it ends' eventually the_copy_of_the_uninstaller_ended
+    expect 'what the way leads to' "$2" "$(contents_of "$1")"
+    expect 'what is left' "$3" "$(names_in "$first_on_host")"
+}
+
 # Users may write in `data`, so they can make it a way to a folder of somebody else.
 AFolderThatLeadsElsewhereLosesNothing() {
     local elsewhere=$drive/Elsewhere before
@@ -185,22 +194,48 @@ AFolderThatLeadsElsewhereLosesNothing() {
     echo mine >"$elsewhere/zentar.ini.new"
     ln -s "$elsewhere" "$first_on_host/data"
     before=$(contents_of "$elsewhere")
-    uninstall "$first" /DESIGNS
-    expect_that 'the uninstaller goes' eventually is_gone "$first_on_host/uninstall.exe"
-    expect_that 'the copy of it ends' eventually the_copy_of_the_uninstaller_ended
-    expect 'what the way leads to' "$before" "$(contents_of "$elsewhere")"
-    expect 'what is left' './data' "$(names_in "$first_on_host")"
+    uninstall_all_but "$elsewhere" "$before" './data'
+    forget_rights
+    set_up "$setup"
+    expect 'rights' 'zentar.ini (M)' "$(rights_given)"
+    uninstall_all_but "$elsewhere" "$before" './data'
     rm "$first_on_host/data"
     set_up "$setup"
     rm -r "$first_on_host/data/q3text"
     echo mine >"$elsewhere/one.ini"
     ln -s "$elsewhere" "$first_on_host/data/q3text"
     before=$(contents_of "$elsewhere")
-    uninstall "$first" /DESIGNS
-    expect_that 'the uninstaller goes' eventually is_gone "$first_on_host/uninstall.exe"
-    expect_that 'the copy of it ends' eventually the_copy_of_the_uninstaller_ended
-    expect 'what the way leads to' "$before" "$(contents_of "$elsewhere")"
+    uninstall_all_but "$elsewhere" "$before" './data
+./data/q3text'
     rm -r "$elsewhere" "$first_on_host"
+}
+
+FoldersThatCannotBeAreRefused() {
+    local before
+    touch "$drive/a file"
+    before=$(names_in "$drive")
+    expect_status 2 set_up "$setup" "C:\\$(printf 'x%.0s' {1..201})"
+    expect_status 2 set_up "$setup" 'C:\a file\Zentar'
+    expect 'files' "$before" "$(names_in "$drive")"
+    rm "$drive/a file"
+    set_up "$setup" "$first"
+    expect 'files' "$InstalledFiles" "$(names_in "$first_on_host")"
+    set_up "$setup" "$first\\"
+    remove_copy "$first" "$first_on_host"
+}
+
+SetupThatTheUserLeavesSaysSo() {
+    local status=0 before process
+    before=$(names_in "$drive")
+    wine "$setup" >>"$work/wine.log" 2>&1 </dev/null &
+    process=$!
+    wait_for_window "Zentar Setup *"
+    xdotool key Escape
+    wait_for_window 'Zentar Setup'
+    xdotool key y
+    wait "$process" || status=$?
+    expect 'exit code' 1 "$status"
+    expect 'files' "$before" "$(names_in "$drive")"
 }
 
 OnlyACapitalDNamesAFolder() {
