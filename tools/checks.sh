@@ -30,18 +30,25 @@ check() {  # name command...
 }
 
 # Begins a check that takes what time the others leave: many tests wait more than they work.
-# end_check says how it went.
+# end_check says how it went; stop_check ends it before that.
 begin_check() {  # name command...
     begun=$1
     shift
+    set -m  # a process group of its own
     nice -n 19 "$@" >"$(log_of "$begun")" 2>&1 </dev/null &
+    set +m
     begun_process=$!
 }
 
 end_check() {
     local status=0
     wait "$begun_process" || status=$?
+    begun_process=
     say_check "$begun" "$status" 'beside the others'
+}
+
+stop_check() {
+    [ -n "${begun_process:-}" ] && kill -- "-$begun_process" 2>/dev/null
 }
 
 # Runs a GoogleTest program and counts each of its tests. A program that crashes, hangs or has no

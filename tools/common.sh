@@ -79,8 +79,10 @@ set_screen_dpi() {  # dots per inch
 # Ends what was started, by its own id only.
 stop_display_and_wine() {
     [ -n "${wineserver_started:-}" ] && wineserver -k
-    [ -n "${openbox_pid:-}" ] && kill "$openbox_pid" 2>/dev/null
-    [ -n "${xvfb_pid:-}" ] && kill "$xvfb_pid" 2>/dev/null
-    wait 2>/dev/null
+    local process
+    for process in ${openbox_pid:-} ${xvfb_pid:-}; do
+        kill "$process" 2>/dev/null
+        wait "$process" 2>/dev/null
+    done
     return 0
 }

@@ -236,8 +236,9 @@ void Costs::OfTextCommand(int command, ProgramState& state) {
             ledger_.MayTake(After::Nothing, false, [](const std::string& folded) {
                 return folded.find(" (transcript).") != std::string::npos;
             });
-            ledger_.MayRewrite(
-                [this](const std::string& folded) { return Holds(chosen_.toRead, folded); });
+            ledger_.MayRewrite(IsAddedTo, [this](const std::string& folded) {
+                return Holds(chosen_.toRead, folded);
+            });
             break;
         case IDC_cmdQ3TextSave:
         case IDC_cmdQ3Backup:
@@ -253,11 +254,14 @@ void Costs::OfConfigCommand(int command, ProgramState& state) {
         case IDC_cmdQ3TextQ3Config:
         case IDC_cmdQ3Restore:
         case IDC_cmdQ3ConfigEdit:
-            ledger_.MayRewrite(Is(state.games[kQuake3Row].BaseModPath + "q3config.cfg"));
+            for (const Ledger::StillSays stillSays : {IsAddedTo, IsConverted}) {
+                ledger_.MayRewrite(stillSays,
+                                   Is(state.games[kQuake3Row].BaseModPath + "q3config.cfg"));
+            }
             break;
         case IDC_cmdRemedy1:
             for (const GameState& game : state.games) {
-                ledger_.MayRewrite(IsIn(game.GameFolder, {".exe"}));
+                ledger_.MayRewrite(IsBlanked, IsIn(game.GameFolder, {".exe"}));
             }
             break;
         default:

@@ -13,6 +13,12 @@ std::string WithoutLineEnds(std::string text) {
     return text;
 }
 
+}  // namespace
+
+std::string Folded(const std::string& path) { return LowerCase(path); }
+
+bool IsAddedTo(const std::string& old, const std::string& now) { return now.starts_with(old); }
+
 // A configuration with a line for each setting: behind the game's header, which is skipped unread,
 // every line that has an end.
 bool IsConverted(const std::string& old, const std::string& now) {
@@ -36,14 +42,6 @@ bool IsBlanked(const std::string& old, const std::string& now) {
         }
     }
     return true;
-}
-
-}  // namespace
-
-std::string Folded(const std::string& path) { return LowerCase(path); }
-
-bool SaysTheSame(const std::string& old, const std::string& now) {
-    return now.starts_with(old) || IsBlanked(old, now) || IsConverted(old, now);
 }
 
 void Ledger::Begin() {
@@ -96,9 +94,12 @@ bool Ledger::MayGo(const std::string& path, const std::string& bytes) const {
 bool Ledger::IsRewritten(const std::string& path, const std::string& old,
                          const std::map<std::string, std::string>& now) const {
     const auto there = now.find(path);
-    return there != now.end() && SaysTheSame(old, there->second) &&
+    return there != now.end() &&
            std::any_of(rewritten_.begin(), rewritten_.end(),
-                       [folded = Folded(path)](const Which& which) { return which(folded); });
+                       [&, folded = Folded(path)](const Rewriting& rewriting) {
+                           return rewriting.which(folded) &&
+                                  rewriting.stillSays(old, there->second);
+                       });
 }
 
 std::vector<std::string> Ledger::Lost(bool changed) {

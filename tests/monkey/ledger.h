@@ -27,6 +27,7 @@ class Ledger {
         Yes,
     };
     using Which = std::function<bool(const std::string& foldedPath)>;
+    using StillSays = bool (*)(const std::string& old, const std::string& now);
 
     explicit Ledger(const MemoryFileSystem& files) : files_(files) {}
 
@@ -34,8 +35,10 @@ class Ledger {
     void Begin();
     // In this step a command may take these files.
     void MayTake(After after, bool expertMode, Which which);
-    // In this step a command may add to these files, or write them anew with the same contents.
-    void MayRewrite(Which which) { rewritten_.push_back(std::move(which)); }
+    // In this step a command may write these files anew, if they still say what they said.
+    void MayRewrite(StillSays stillSays, Which which) {
+        rewritten_.push_back({stillSays, std::move(which)});
+    }
     // In this step one of two files with the same bytes may go.
     void MayDropCopies() { copiesMayGo_ = true; }
     void UserSaidYes() { saidYes_ = true; }
@@ -58,6 +61,10 @@ class Ledger {
         bool expertMode = false;
         Which which;
     };
+    struct Rewriting {
+        StillSays stillSays = nullptr;
+        Which which;
+    };
     using Counts = std::map<std::string, int>;
 
     bool MayGo(const std::string& path, const std::string& bytes) const;
@@ -69,14 +76,16 @@ class Ledger {
     std::map<std::string, std::string> before_;
     bool known_ = false;  // before_ is what there is
     std::vector<Taking> takings_;
-    std::vector<Which> rewritten_;
+    std::vector<Rewriting> rewritten_;
     std::set<std::string> takenOutside_;  // contents
     bool saidYes_ = false;
     bool copiesMayGo_ = false;
 };
 
-// Whether all that a file says is there still, with more behind it; in a configuration with other
+// Whether all that a file says is there still: with more behind it; in a configuration with other
 // ends of its lines and another header; in an executable but for texts that were blanked.
-bool SaysTheSame(const std::string& old, const std::string& now);
+bool IsAddedTo(const std::string& old, const std::string& now);
+bool IsConverted(const std::string& old, const std::string& now);
+bool IsBlanked(const std::string& old, const std::string& now);
 
 }  // namespace zentar::monkey

@@ -147,7 +147,10 @@ void Monkey::CheckShotCount() {
     int tga = 0;
     int jpg = 0;
     int pcx = 0;
-    std::sscanf(text.c_str(), "Total: %d  (tga=%d,  jpg=%d,  pcx=%d).", &total, &tga, &jpg, &pcx);
+    int end = 0;
+    std::sscanf(text.c_str(), "Total: %d  (tga=%d,  jpg=%d,  pcx=%d).%n", &total, &tga, &jpg, &pcx,
+                &end);
+    EXPECT_EQ(static_cast<std::size_t>(end), text.size()) << text;
     EXPECT_EQ(total, count) << text;
     EXPECT_EQ(tga + jpg + pcx, count) << text;
     EXPECT_EQ(Main().GetListBox(IDC_lstScreenshots).Enabled(), count > 0);
