@@ -91,6 +91,13 @@ bool Ledger::MayGo(const std::string& path, const std::string& bytes) const {
         });
 }
 
+// One that was moved over another with the same bytes is there as long as that one was.
+int Ledger::CountThatMayGo(const std::string& bytes) const {
+    return static_cast<int>(std::count_if(before_.begin(), before_.end(), [&](const auto& file) {
+        return file.second == bytes && MayGo(file.first, bytes);
+    }));
+}
+
 bool Ledger::IsRewritten(const std::string& path, const std::string& old,
                          const std::map<std::string, std::string>& now) const {
     const auto there = now.find(path);
@@ -116,9 +123,10 @@ std::vector<std::string> Ledger::Lost(bool changed) {
             continue;
         }
         const auto copies = are.find(bytes);
-        const int enough = copiesMayGo_ ? 1 : were.at(bytes);
-        const bool elsewhere = copies != are.end() && copies->second >= enough;
-        if (!elsewhere && !MayGo(path, bytes) && !IsRewritten(path, bytes, now)) {
+        const int left = copies == are.end() ? 0 : copies->second;
+        const bool elsewhere = left >= (copiesMayGo_ ? 1 : were.at(bytes));
+        if (!elsewhere && !MayGo(path, bytes) && !IsRewritten(path, bytes, now) &&
+            left < were.at(bytes) - CountThatMayGo(bytes)) {
             lost.push_back(path + ": \"" + bytes + "\" became " +
                            (there == now.end() ? "nothing" : '"' + there->second + '"'));
         }

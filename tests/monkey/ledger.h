@@ -68,6 +68,7 @@ class Ledger {
     using Counts = std::map<std::string, int>;
 
     bool MayGo(const std::string& path, const std::string& bytes) const;
+    int CountThatMayGo(const std::string& bytes) const;
     bool IsRewritten(const std::string& path, const std::string& old,
                      const std::map<std::string, std::string>& now) const;
     static Counts CountsOf(const std::map<std::string, std::string>& files);
