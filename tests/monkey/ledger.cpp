@@ -15,7 +15,13 @@ std::string WithoutLineEnds(std::string text) {
 
 }  // namespace
 
-std::string Folded(const std::string& path) { return LowerCase(path); }
+std::string Folded(const std::string& path) {
+    std::string folded = LowerCase(path);
+    const auto again = std::unique(folded.begin(), folded.end(),
+                                   [](char one, char next) { return one == '\\' && next == one; });
+    folded.erase(again, folded.end());
+    return folded;
+}
 
 bool IsAddedTo(const std::string& old, const std::string& now) { return now.starts_with(old); }
 

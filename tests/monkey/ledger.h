@@ -15,7 +15,7 @@
 
 namespace zentar::monkey {
 
-// Paths compare in lower case.
+// Paths compare in lower case; as many backslashes as somebody typed are one.
 std::string Folded(const std::string& path);
 
 class Ledger {
