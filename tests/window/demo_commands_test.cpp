@@ -30,10 +30,10 @@ TEST_F(Commands, DeleteAsksAndSelectsTheNextDemoIfSoPreferred) {
     const ZentarDriver& zentar = Open({"AutoNextDemo=1"});
     zentar.Choose(IDC_lstDemos, "campaign", 'D');
     Answer(Question({"Really delete this demo?"}), IDNO);
-    EXPECT_TRUE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), true);
     zentar.Choose(IDC_lstDemos, "campaign", 'D');
     Answer(Question({"Really delete this demo?"}), IDYES);
-    EXPECT_FALSE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), false);
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "edge final");
     EXPECT_SOON(zentar.Text(IDC_labDemoName), "Name: The Edge");
 }
@@ -47,10 +47,10 @@ TEST_F(Commands, TheDeleteKeyAsksAboutAReadOnlyDemo) {
     zentar.ClickItem(IDC_lstDemos, "campaign");
     zentar.PressKey(VK_DELETE);
     Answer(question, IDNO);
-    EXPECT_TRUE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), true);
     zentar.PressKey(VK_BACK);
     Answer(question, IDYES);
-    EXPECT_FALSE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), false);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
 }
 
@@ -61,9 +61,9 @@ TEST_F(Commands, ADeleteKeyThatIsHeldDownDeletesOneDemo) {
     zentar.PressKey(VK_DELETE);
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "edge final");
     zentar.RepeatKey(VK_DELETE);
-    EXPECT_EQ(zentar.Selected(IDC_lstDemos), "edge final");
-    EXPECT_EQ(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
-    EXPECT_TRUE(IsHere("edge final"));
+    EXPECT_SOON(zentar.Selected(IDC_lstDemos), "edge final");
+    EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
+    EXPECT_SOON(IsHere("edge final"), true);
 }
 
 TEST_F(Commands, DeleteAllListedLeavesWhatTheFilterHides) {
@@ -73,15 +73,14 @@ TEST_F(Commands, DeleteAllListedLeavesWhatTheFilterHides) {
     zentar.Choose(IDC_lstDemos, "edge final", 'A');
     Answer(Question({"Really delete all listed demos?"}), IDYES);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 0 of 6.");
-    EXPECT_TRUE(IsHere("campaign"));
-    EXPECT_FALSE(IsHere("дуэль"));
+    EXPECT_SOON(IsHere("campaign"), true);
+    EXPECT_SOON(IsHere("дуэль"), false);
 }
 
 TEST_F(Commands, F2RenamesInAnInputBox) {
     const ZentarDriver& zentar = Open();
     zentar.ClickItem(IDC_lstDemos, "дуэль");
-    zentar.PressKey(VK_F2);
-    const HWND box = zentar.WaitForWindow("ZentarForm", "Rename Demo");
+    const HWND box = zentar.OpenForm(VK_F2, "Rename Demo");
     const std::vector<HWND> inside = Descendants(box);
     Lines texts;
     for (const HWND control : inside) {
@@ -90,30 +89,27 @@ TEST_F(Commands, F2RenamesInAnInputBox) {
     EXPECT_EQ(texts, (Lines{"Enter new name for \"дуэль\".\r\n(Do not type the extension).",
                             "дуэль", "OK", "Cancel"}));
     // The old name is selected, so typing replaces it.
-    Type("Größe & co");
-    Press(VK_RETURN);
+    EXPECT_SOON(Send(FindControl(box, 1002), EM_GETSEL), MAKELONG(0, 5));
+    zentar.AnswerInputBox("Rename Demo", "Größe & co");
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "Größe & co");
-    EXPECT_TRUE(IsHere("Größe & co"));
+    EXPECT_SOON(IsHere("Größe & co"), true);
     EXPECT_SOON(zentar.Text(IDC_labDemoName), "Name: Warehouse");
 }
 
 TEST_F(Commands, EscapeLeavesTheNameAsItIs) {
     const ZentarDriver& zentar = Open();
     zentar.Choose(IDC_lstDemos, "campaign", 'M');
-    const HWND box = zentar.WaitForWindow("ZentarForm", "Rename Demo");
-    Type("x");
-    Press(VK_ESCAPE);
-    EXPECT_TRUE(Eventually([box] { return IsWindow(box) == FALSE; }));
-    EXPECT_TRUE(IsHere("campaign"));
+    const HWND box = zentar.WaitForForm("Rename Demo");
+    zentar.TypeText("x");
+    zentar.LeaveBy(VK_ESCAPE, box);
+    EXPECT_SOON(IsHere("campaign"), true);
 }
 
 TEST_F(Commands, NamesThatCannotBeAreRefused) {
     const ZentarDriver& zentar = Open();
     const auto rename = [&](const std::string& name) {
         zentar.Choose(IDC_lstDemos, "campaign", 'M');
-        zentar.WaitForWindow("ZentarForm", "Rename Demo");
-        Type(name);
-        Press(VK_RETURN);
+        zentar.AnswerInputBox("Rename Demo", name);
     };
     rename("a:b");
     Answer(Failure({"Can't rename due to illegal characters.", "",
@@ -129,15 +125,15 @@ TEST_F(Commands, NamesThatCannotBeAreRefused) {
         Failure({"Can't rename due to Windows not allowing that name.", "",
                  "It may be too long, or be a name that Windows", "keeps for itself (eg. con)."}),
         IDOK);
-    EXPECT_TRUE(IsHere("campaign"));
-    EXPECT_EQ(zentar.Selected(IDC_lstDemos), "campaign");
+    EXPECT_SOON(IsHere("campaign"), true);
+    EXPECT_SOON(zentar.Selected(IDC_lstDemos), "campaign");
 }
 
 TEST_F(Commands, RenameWithMapPutsTheMapBeforeTheName) {
     const ZentarDriver& zentar = Open();
     zentar.Choose(IDC_lstDemos, "edge final", 'W');
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "[q2dm1]_edge final");
-    EXPECT_TRUE(IsHere("[q2dm1]_edge final"));
+    EXPECT_SOON(IsHere("[q2dm1]_edge final"), true);
 }
 
 TEST_F(Commands, CopyAndMoveAskAndCarryTheDemo) {
@@ -155,13 +151,13 @@ TEST_F(Commands, CopyAndMoveAskAndCarryTheDemo) {
         FailureWithQuestion({"Can't overwrite existing demo due to it being read-only.",
                              "Would you like me to remove this setting to force the overwrite?"});
     Answer(readOnly, IDNO);
-    EXPECT_TRUE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), true);
     zentar.Choose(IDC_lstDemos, "campaign", 'R');
     Answer(Question({"Really move this demo to this folder?"}), IDYES);
     Answer(Question({"Demo already exists in Remote Folder -- Overwrite?"}), IDYES);
     Answer(readOnly, IDYES);
     EXPECT_SOON(IsHere("campaign"), false);
-    EXPECT_TRUE(ReadBytes(There("campaign")) == bytes);
+    EXPECT_SOON(ReadBytes(There("campaign")) == bytes, true);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
 }
 
@@ -171,7 +167,7 @@ TEST_F(Commands, ADemoIsMovedToAnotherDriveByACheckedCopy) {
     const std::string bytes = ReadBytes(Demos() / "edge final.dm2");
     zentar.Choose(IDC_lstDemos, "edge final", 'R');
     EXPECT_SOON(IsHere("edge final"), false);
-    EXPECT_TRUE(ReadBytes(There("edge final")) == bytes);
+    EXPECT_SOON(ReadBytes(There("edge final")) == bytes, true);
     EXPECT_EQ(std::distance(fs::directory_iterator(home_.Remote()), fs::directory_iterator()), 1);
 }
 
@@ -182,7 +178,7 @@ TEST_F(Commands, ARemoteFolderThatIsTheDemosOwnUnderAnotherNameLosesNothing) {
     zentar.Choose(IDC_lstDemos, "edge final", 'R');
     Answer(Question({"Demo already exists in Remote Folder -- Overwrite?"}), IDYES);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 8 of 8.");
-    EXPECT_TRUE(ReadBytes(Demos() / "edge final.dm2") == bytes);
+    EXPECT_SOON(ReadBytes(Demos() / "edge final.dm2") == bytes, true);
 }
 
 TEST_F(Commands, AnInvalidRemoteFolderIsToldBeforeAnyFileIsTouched) {
@@ -194,7 +190,7 @@ TEST_F(Commands, AnInvalidRemoteFolderIsToldBeforeAnyFileIsTouched) {
          "\"Program\" menu and select a new Remote", "Folder, and then try this function again."});
     invalid.title = "Folder Error";
     Answer(invalid, IDOK);
-    EXPECT_TRUE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), true);
 }
 
 TEST_F(Commands, ALockedDemoStaysWhereItIs) {
@@ -207,7 +203,7 @@ TEST_F(Commands, ALockedDemoStaysWhereItIs) {
                     "The file may be in use, or its folder may be protected."}),
            IDOK);
     CloseHandle(held);
-    EXPECT_TRUE(IsHere("campaign"));
+    EXPECT_SOON(IsHere("campaign"), true);
 }
 
 // ---- the demo installer ----
@@ -242,10 +238,11 @@ TEST_F(Installer, MovesDemosIntoTheirMods) {
                  "not have the required Quake2 mod that is needed to", "play them back."},
                 BoxIcon::Exclamation),
            IDOK);
-    EXPECT_TRUE(fs::exists(home_.Games() / "Quake2" / "CTF" / "demos" / Widen("für CTF.dm2")));
-    EXPECT_TRUE(IsHere("base"));
-    EXPECT_TRUE(fs::exists(Unzipped() / "lost.dm2"));
-    EXPECT_FALSE(fs::exists(Unzipped() / "base.dm2"));
+    EXPECT_SOON(fs::exists(home_.Games() / "Quake2" / "CTF" / "demos" / Widen("für CTF.dm2")),
+                true);
+    EXPECT_SOON(IsHere("base"), true);
+    EXPECT_SOON(fs::exists(Unzipped() / "lost.dm2"), true);
+    EXPECT_SOON(fs::exists(Unzipped() / "base.dm2"), false);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 9 of 9.");
 }
 
@@ -260,20 +257,20 @@ TEST_F(Installer, FromAnotherDriveToo) {
     Answer(Done({"Number of demos successfully installed: 2 out of 2."}, BoxIcon::Information),
            IDOK);
     const fs::path games = home_.Games() / "Quake3";
-    EXPECT_TRUE(fs::exists(games / "OSP" / "demos" / "a.dm3"));
-    EXPECT_TRUE(fs::exists(games / "baseq3" / "demos" / "b.dm_66"));
-    EXPECT_TRUE(fs::is_empty(Unzipped()));
+    EXPECT_SOON(fs::exists(games / "OSP" / "demos" / "a.dm3"), true);
+    EXPECT_SOON(fs::exists(games / "baseq3" / "demos" / "b.dm_66"), true);
+    EXPECT_SOON(fs::is_empty(Unzipped()), true);
 }
 
 TEST_F(Installer, IsOfNoUseForQuake1) {
     const ZentarDriver& zentar = Open({"Game=Quake1"});
     zentar.ShowTab(kMiscTab);
-    EXPECT_EQ(zentar.Text(IDC_fraDemoInstaller), "Q2/3 Demo Installer");
-    EXPECT_EQ(zentar.Text(IDC_cmdDemoInstaller), "Unavailable");
-    EXPECT_FALSE(zentar.Usable(IDC_cmdDemoInstaller));
+    EXPECT_SOON(zentar.Text(IDC_fraDemoInstaller), "Q2/3 Demo Installer");
+    EXPECT_SOON(zentar.Text(IDC_cmdDemoInstaller), "Unavailable");
+    EXPECT_SOON(zentar.Usable(IDC_cmdDemoInstaller), false);
     zentar.ClickOn(IDC_optGameQuake2);
     EXPECT_SOON(zentar.Text(IDC_fraDemoInstaller), "Q2 Demo Installer");
-    EXPECT_TRUE(zentar.Usable(IDC_cmdDemoInstaller));
+    EXPECT_SOON(zentar.Usable(IDC_cmdDemoInstaller), true);
 }
 
 }  // namespace

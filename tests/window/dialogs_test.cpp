@@ -16,7 +16,7 @@ class Dialogs : public testing::Test {
         home_.WriteIni(settings);
         zentar_ = std::make_unique<ZentarDriver>(home_);
         zentar_->OpenMenuEntry('P', 'P');
-        const HWND preferences = zentar_->WaitForWindow("ZentarForm", "Preferences");
+        const HWND preferences = zentar_->WaitForForm("Preferences");
         zentar_->Settle();
         return preferences;
     }
@@ -24,7 +24,7 @@ class Dialogs : public testing::Test {
     // Closes the dialog and the program; gives the settings that were saved.
     std::string CloseBoth(HWND preferences) {
         PostMessageW(preferences, WM_CLOSE, 0, 0);
-        Eventually([preferences] { return IsWindowVisible(preferences) == FALSE; });
+        zentar_->WaitUntilLeft(preferences);
         EXPECT_EQ(zentar_->Close(), 0);
         return ReadBytes(home_.Ini());
     }
@@ -46,12 +46,12 @@ BoxContents ExpertWarning() {
 TEST_F(Dialogs, ExpertModeIsOnlyOnAfterYes) {
     const HWND preferences = OpenPreferences();
     const HWND expert = FindControl(preferences, IDC_chkExpert);
-    Click(CentreOf(expert));
+    zentar_->ClickIn(preferences, IDC_chkExpert);
     HWND box = zentar_->WaitForBox("Confirm");
     EXPECT_EQ(zentar_->Read(box), ExpertWarning());
     AnswerBox(box, IDNO);
     EXPECT_SOON(IsChecked(expert), false);
-    Click(CentreOf(expert));
+    zentar_->ClickIn(preferences, IDC_chkExpert);
     AnswerBox(zentar_->WaitForBox("Confirm"), IDYES);
     EXPECT_SOON(IsChecked(expert), true);
     EXPECT_NE(CloseBoth(preferences).find("\r\nExpert=1\r\n"), std::string::npos);
@@ -59,9 +59,9 @@ TEST_F(Dialogs, ExpertModeIsOnlyOnAfterYes) {
 
 TEST_F(Dialogs, ExpertModeThatIsOnShowsTickedWithoutAWarning) {
     const HWND preferences = OpenPreferences({"Expert=1"});
-    EXPECT_TRUE(IsChecked(FindControl(preferences, IDC_chkExpert)));
+    EXPECT_SOON(IsChecked(FindControl(preferences, IDC_chkExpert)), true);
     EXPECT_FALSE(zentar_->HasBox());
-    Click(CentreOf(FindControl(preferences, IDC_chkExpert)));
+    zentar_->ClickIn(preferences, IDC_chkExpert);
     EXPECT_SOON(IsChecked(FindControl(preferences, IDC_chkExpert)), false);
     EXPECT_FALSE(zentar_->HasBox());
     EXPECT_NE(CloseBoth(preferences).find("\r\nExpert=0\r\n"), std::string::npos);
@@ -69,9 +69,9 @@ TEST_F(Dialogs, ExpertModeThatIsOnShowsTickedWithoutAWarning) {
 
 TEST_F(Dialogs, TheOtherPreferencesAreSaved) {
     const HWND preferences = OpenPreferences();
-    EXPECT_TRUE(IsChecked(FindControl(preferences, IDC_chkAutoShowAll)));
+    EXPECT_SOON(IsChecked(FindControl(preferences, IDC_chkAutoShowAll)), true);
     for (const int id : {IDC_chkAutoShowAll, IDC_chkAutoNextShot, IDC_chkAutoNextDemo}) {
-        Click(CentreOf(FindControl(preferences, id)));
+        zentar_->ClickIn(preferences, id);
     }
     EXPECT_SOON(IsChecked(FindControl(preferences, IDC_chkAutoNextDemo)), true);
     EXPECT_NE(CloseBoth(preferences).find("\r\nAutoShowAll=0\r\nAutoNextShot=1\r\nAutoNextDemo=1"),
@@ -81,26 +81,24 @@ TEST_F(Dialogs, TheOtherPreferencesAreSaved) {
 TEST_F(Dialogs, TheRemoteFolderIsTakenAsTyped) {
     const HWND preferences = OpenPreferences();
     const HWND remote = FindControl(preferences, IDC_txtRemote);
-    EXPECT_EQ(TextOf(remote), FolderText(home_.Remote()));
-    Click(CentreOf(remote));
-    PressWith(VK_CONTROL, 'A');
-    Type("D:\\Größe");
+    EXPECT_SOON(TextOf(remote), FolderText(home_.Remote()));
+    TypeOver(remote, "D:\\Größe");
     EXPECT_SOON(TextOf(remote), "D:\\Größe");
     EXPECT_NE(CloseBoth(preferences).find("\r\nRemote=D:\\Größe\r\n"), std::string::npos);
 }
 
 TEST_F(Dialogs, CancellingTheRemoteFolderPickerChangesNothing) {
     const HWND preferences = OpenPreferences();
-    Click(CentreOf(FindControl(preferences, IDC_cmdRemote)));
+    zentar_->ClickIn(preferences, IDC_cmdRemote);
     AnswerBox(zentar_->WaitForPicker("Please specify a folder to be the Remote Folder:"), IDCANCEL);
-    EXPECT_EQ(TextOf(FindControl(preferences, IDC_txtRemote)), FolderText(home_.Remote()));
+    EXPECT_SOON(TextOf(FindControl(preferences, IDC_txtRemote)), FolderText(home_.Remote()));
 }
 
 TEST_F(Dialogs, APickedRemoteFolderGetsItsBackslash) {
     const std::filesystem::path folder = home_.Remote() / "Best of";
     std::filesystem::create_directories(folder);
     const HWND preferences = OpenPreferences();
-    Click(CentreOf(FindControl(preferences, IDC_cmdRemote)));
+    zentar_->ClickIn(preferences, IDC_cmdRemote);
     zentar_->PickFolder("Please specify a folder to be the Remote Folder:", folder);
     EXPECT_SOON(TextOf(FindControl(preferences, IDC_txtRemote)), FolderText(folder));
     EXPECT_NE(CloseBoth(preferences).find("\r\nRemote=" + FolderText(folder) + "\r\n"),
@@ -109,8 +107,7 @@ TEST_F(Dialogs, APickedRemoteFolderGetsItsBackslash) {
 
 TEST_F(Dialogs, EscapeClosesThePreferences) {
     const HWND preferences = OpenPreferences();
-    Press(VK_ESCAPE);
-    EXPECT_TRUE(Eventually([preferences] { return IsWindowVisible(preferences) == FALSE; }));
+    zentar_->LeaveBy(VK_ESCAPE, preferences);
     EXPECT_SOON(IsWindowEnabled(zentar_->Main()) != FALSE, true);
 }
 
@@ -119,13 +116,12 @@ TEST_F(Dialogs, EscapeThatIsHeldDownClosesOneWindowOnly) {
     const HWND preferences = OpenPreferences();
     zentar_->RepeatKey(VK_ESCAPE);
     EXPECT_NE(IsWindowVisible(preferences), FALSE);
-    Press(VK_ESCAPE);
-    EXPECT_TRUE(Eventually([preferences] { return IsWindowVisible(preferences) == FALSE; }));
+    zentar_->LeaveBy(VK_ESCAPE, preferences);
 }
 
 TEST_F(Dialogs, ThePreferencesKeepTheMainWindowWaiting) {
     OpenPreferences();
-    EXPECT_EQ(IsWindowEnabled(zentar_->Main()), FALSE);
+    EXPECT_SOON(IsWindowEnabled(zentar_->Main()), FALSE);
 }
 
 TEST_F(Dialogs, AboutNamesTheVersion) {
@@ -145,9 +141,13 @@ TEST_F(Dialogs, ATooltipExplainsAControl) {
     home_.WriteIni();
     const ZentarDriver zentar(home_);
     const POINT place = CentreOf(zentar.Control(IDC_optGameQuake1));
-    MovePointer({place.x + 3, place.y});
-    MovePointer(place);
-    const HWND tip = zentar.WaitForWindow("tooltips_class32", "");
+    const HWND tip = Eventually([&] {
+        MovePointer({place.x + 3, place.y});
+        MovePointer(place);
+        return Eventually([&] { return FindTop(zentar.Process(), kTooltipClass); },
+                          kBeforeTryingAgain);
+    });
+    ASSERT_NE(tip, nullptr);
     EXPECT_SOON(TextOf(tip), "Click here to select Quake1 as the current game.");
 }
 

@@ -1,14 +1,11 @@
 #include "tests/window/evening_fixture.h"
 
-#include <algorithm>
-
 #include "platform/win32/win32_text.h"
 #include "samples/demo_maker.h"
 #include "tests/window/game_log.h"
 #include "tests/window/image_library_file.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
-#include "tests/window/wallpaper.h"
 #include "tests/window/windows_of.h"
 #include "ui/form_tables.h"
 #include "ui/resource.h"
@@ -17,9 +14,6 @@ namespace zentar::window_tests {
 namespace {
 
 namespace fs = std::filesystem;
-
-const std::string kShots = "Games/Quake2/baseq2/scrnshot/";
-const std::string kDemos = "Games/Quake2/baseq2/demos/";
 
 bool IsCommand(const ControlRow& row) {
     return row.kind == ControlKind::Button || row.kind == ControlKind::ColourButton ||
@@ -46,9 +40,9 @@ Lines OwnFilesInWindows() {
 
 }  // namespace
 
-EveningTest::EveningTest() : wallpaperBefore_(CurrentWallpaper()) {
-    for (const char* game : {"Quake", "Quake2", "Quake3"}) {
-        SetGameSeconds(home_.Games() / game, 0);
+EveningTest::EveningTest() {
+    for (const EveningGame& game : EveningGames()) {
+        SetGameSeconds(At(game.folder), 0);
     }
     firstDay_ = ReadTree(home_.Program().parent_path());
     expected_ = firstDay_;
@@ -58,17 +52,15 @@ EveningTest::EveningTest() : wallpaperBefore_(CurrentWallpaper()) {
     Restock();
 }
 
-EveningTest::~EveningTest() {
-    zentar_.reset();
-    SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, wallpaperBefore_.data(), SPIF_UPDATEINIFILE);
-}
+// Before what stands in for others goes.
+EveningTest::~EveningTest() { zentar_.reset(); }
 
 fs::path EveningTest::At(const std::string& path) const {
     return home_.Program().parent_path() / Widen(path);
 }
 
-std::string EveningTest::Name(const std::string& game) const {
-    return Narrow((home_.Games() / game).make_preferred().wstring());
+std::string EveningTest::Name(const std::string& path) const {
+    return Narrow(At(path).make_preferred().wstring());
 }
 
 void EveningTest::Put(const std::string& path, const std::string& bytes) {
@@ -93,13 +85,14 @@ void EveningTest::Appends(const std::string& path, const std::string& bytes) {
 }
 
 void EveningTest::Restock() {
-    for (const auto& [path, bytes] : firstDay_) {
-        if ((path.starts_with(kShots) || path.starts_with(kDemos)) && !path.ends_with('/')) {
-            Put(path, bytes);
+    for (const EveningGame& game : EveningGames()) {
+        for (const auto& [path, bytes] : firstDay_) {
+            if ((path.starts_with(game.shots) || path.starts_with(game.demos)) &&
+                !path.ends_with('/')) {
+                Put(path, bytes);
+            }
         }
-    }
-    for (const char* game : {"Quake", "Quake2", "Quake3"}) {
-        Put("Games/" + std::string(game) + "/opengl32.dll", "driver of " + std::string(game));
+        Put(game.folder + "opengl32.dll", "driver of " + game.name);
     }
     Put("Games/Quake2/baseq2/players/stray " + Number() + ".pcx", "stray " + Number());
     for (const char* mod : {"ctf", "", "not installed"}) {
@@ -118,8 +111,7 @@ void EveningTest::ClickOn(int control) {
 }
 
 void EveningTest::ClickIn(HWND window, int control) {
-    Click(CentreOf(FindControl(window, control)));
-    zentar_->Settle();
+    zentar_->ClickIn(window, control);
     used_.insert(control);
 }
 
@@ -128,25 +120,33 @@ void EveningTest::PickFromBar(char menu, char entry, int id) {
     used_.insert(id);
 }
 
-// What was done before may still be filling the list.
-void EveningTest::WaitForEntry(int list, const std::string& entry) const {
-    Eventually([&] {
-        const Lines items = zentar_->Items(list);
-        return std::any_of(items.begin(), items.end(), [&](const std::string& item) {
-            return item == entry || item == entry + " *";
-        });
-    });
+void EveningTest::SwitchTo(const EveningGame& game) {
+    ClickOn(game.option);
+    EXPECT_SOON(zentar_->Selected(IDC_lstMods), game.mod);
+    zentar_->Settle();
+}
+
+void EveningTest::DoubleClickItem(int list, const std::string& item) const {
+    zentar_->ClickItem(list, item);
+    const HWND box = zentar_->Control(list);
+    WaitForKeyboard(zentar_->Process());
+    DoubleClick(CentreOfItem(box, static_cast<int>(Send(box, LB_GETCURSEL))));
+    zentar_->Settle();
+}
+
+void EveningTest::OpenMenuOf(int list) const {
+    EXPECT_TRUE(zentar_->GetsFocus(list));
+    zentar_->PressKey(VK_APPS);
+    zentar_->ClosePopup(zentar_->WaitForWindow(kMenuClass, ""));
     zentar_->Settle();
 }
 
 void EveningTest::ShotCommand(const std::string& shot, int command) {
-    WaitForEntry(IDC_lstScreenshots, shot);
     Choose(shot, command);
     used_.insert(command);
 }
 
 void EveningTest::DemoCommand(const std::string& demo, int command) {
-    WaitForEntry(IDC_lstDemos, demo);
     zentar_->ChooseCommand(IDC_lstDemos, demo, command);
     used_.insert(command);
 }
@@ -171,105 +171,22 @@ void EveningTest::AgreeToReplace(const std::string& remoteFile) {
 }
 
 void EveningTest::Rename(const std::string& title, const std::string& name) {
-    const HWND box = zentar_->WaitForWindow("ZentarForm", title);
-    Type(name);
-    Press(VK_RETURN);
-    WaitUntilGone(box);
+    zentar_->AnswerInputBox(title, name);
     zentar_->Settle();
 }
 
-// ---- the first run, and what is in the menu bar ----
-
-void EveningTest::FirstRun() {
-    zentar_ = std::make_unique<ZentarDriver>(home_, ZentarDriver::Start::FirstRun);
-    PostMessageW(zentar_->WaitForWindow("ZentarForm", "Zentar Help"), WM_CLOSE, 0, 0);
-    AnswerBox(zentar_->WaitForBox("Welcome"), IDYES);
-    for (const auto& [game, folder] :
-         {std::pair("Quake1", "Quake"), {"Quake2", "Quake2"}, {"Quake3", "Quake3"}}) {
-        zentar_->PickFolder("Please locate your " + std::string(game) + " folder:",
-                            home_.Games() / folder);
+void EveningTest::RenameByKey(const std::string& title, const std::string& name) {
+    for (const int button : {IDCANCEL, IDOK}) {
+        const HWND box = zentar_->OpenForm(VK_F2, title);
+        zentar_->TypeText(name);
+        AnswerBox(box, button);
+        zentar_->WaitUntilLeft(box);
     }
-    AnswerNext("Current Folders", IDOK);
-    EXPECT_SOON(zentar_->Selected(IDC_lstMods), "baseq3");
 }
 
-void EveningTest::GoHome() {
-    EXPECT_SOON(zentar_->Checked(IDC_optGameQuake2), true);
-    PickFromBar('P', 'X', IDM_mnuProgramExit);
-    EXPECT_EQ(zentar_->WaitForExit(), 0);
-    expected_["Program/zentar.ini"] =
-        home_.WholeIni({"Expert=" + std::string(expert_ ? "1" : "0"),
-                        "BackupAll=" + std::string(pass_ == 1 ? "1" : "0"), "DemosFilter=q2dm3",
-                        "TranscriptGameplay=" + std::string(pass_ == 1 ? "1" : "0"),
-                        "Q3TextText=" + FolderText(home_.Program()) + "data\\q3text\\evening " +
-                            Number() + ".ini"});
-    ExpectFiles();
-    ExpectAllUsed();
-}
-
-void EveningTest::ComeBack() {
-    pass_ = 2;
-    Restock();
-    zentar_ = std::make_unique<ZentarDriver>(home_);
-}
-
-void EveningTest::Preferences(bool switchToExpert) {
-    PickFromBar('P', 'P', IDM_mnuProgramPreferences);
-    const HWND window = zentar_->WaitForWindow("ZentarForm", "Preferences");
-    zentar_->Settle();
-    ClickIn(window, IDC_cmdRemote);
-    zentar_->PickFolder("Please specify a folder to be the Remote Folder:", home_.Remote());
-    EXPECT_SOON(TextOf(FindControl(window, IDC_txtRemote)), FolderText(home_.Remote()));
-    for (const int option : {IDC_chkAutoShowAll, IDC_chkAutoNextShot, IDC_chkAutoNextDemo}) {
-        ClickIn(window, option);
-        ClickIn(window, option);
-    }
-    ClickIn(window, IDC_chkExpert);
-    AnswerNext("Confirm", switchToExpert ? IDYES : IDNO);
-    expert_ = switchToExpert;
-    EXPECT_SOON(IsChecked(FindControl(window, IDC_chkExpert)), expert_);
+void EveningTest::Close(HWND window) {
     PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_SOON(IsWindowVisible(window), FALSE);
-    zentar_->Settle();
-}
-
-void EveningTest::GamesAndMenus() {
-    PickFromBar('G', 'Q', IDM_mnuGameQuake1);
-    EXPECT_SOON(zentar_->Selected(IDC_lstMods), "id1");
-    PickFromBar('G', '3', IDM_mnuGameQuake3);
-    EXPECT_SOON(zentar_->Selected(IDC_lstMods), "baseq3");
-    ClickOn(IDC_optGameQuake1);
-    ClickOn(IDC_optGameQuake3);
-    ClickOn(IDC_optGameQuake2);
-    EXPECT_SOON(zentar_->Selected(IDC_lstMods), "baseq2");
-    PickFromBar('G', '2', IDM_mnuGameQuake2);
-    PickFromBar('G', 'C', IDM_mnuGameCurrentFolders);
-    AnswerNext("Current Folders", IDOK);
-    PickFromBar('G', 'F', IDM_mnuGameGetFolder);
-    zentar_->PickFolder("Please locate your Quake2 folder:", home_.Games() / "Quake2");
-    PickFromBar('H', 'H', IDM_mnuHelpTopics);
-    const HWND help = zentar_->WaitForWindow("ZentarForm", "Zentar Help");
-    zentar_->Settle();
-    const HWND list = FindControl(help, IDC_lstQuestions);
-    ScrollTo(list, 1);
-    DoubleClick(CentreOfItem(list, 1));
-    EXPECT_SOON(IsUsable(FindControl(help, IDC_cmdBack)), true);
-    ClickIn(help, IDC_cmdBack);
-    PostMessageW(help, WM_CLOSE, 0, 0);
-    EXPECT_SOON(IsWindowVisible(help), FALSE);
-    PickFromBar('H', 'A', IDM_mnuHelpAbout);
-    AnswerNext("About Zentar", IDOK);
-    // The game wrote its note on backups when it was the current one.
-    expected_["Games/Quake3/SINGLE-PLAYER Backups/Single-Player Backups.txt"] =
-        BoxLines({"Zentar v0.99 BETA Single-Player Backups", "Web Site: " ZENTAR_WEB_SITE,
-                  "----------------------------------",
-                  "The files in this folder are backups of Quake 3 single-player games",
-                  "and were created by Zentar.  You can restore these backups to Quake 3",
-                  "by running Zentar and clicking the \"Misc\" tab and then \"Restore\".",
-                  "Alternatively, you can copy-and-paste the data in the files here into",
-                  "your existing \"q3config.cfg\" file, but be sure to paste them to the",
-                  "very END of the file to ensure the existing settings get overwritten!",
-                  "======================================================================", ""});
+    zentar_->WaitUntilLeft(window);
 }
 
 // ---- what is left at the end ----

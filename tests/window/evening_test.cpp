@@ -9,7 +9,10 @@ namespace {
 TEST_F(EveningTest, LeavesEveryFileAsItShouldBe) {
     FirstRun();
     for (const bool expert : {false, true}) {
-        Preferences(expert);
+        if (expert) {
+            ComeBack();
+        }
+        Preferences();
         GamesAndMenus();
         Screenshots();
         Demos();
@@ -17,9 +20,6 @@ TEST_F(EveningTest, LeavesEveryFileAsItShouldBe) {
         ColouredText();
         FirstAid();
         GoHome();
-        if (!expert) {
-            ComeBack();
-        }
     }
 }
 

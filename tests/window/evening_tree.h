@@ -13,8 +13,8 @@ using Tree = std::map<std::string, std::string>;
 
 Tree ReadTree(const std::filesystem::path& top);
 
-// Stands in an expected tree for bytes that only whoever makes them knows: a JPG.
-extern const std::string kSomeJpg;
+// A text file of these lines.
+std::string FileOf(const std::vector<std::string>& lines);
 
 // How the trees differ, a line a path; empty when they do not.
 std::vector<std::string> Differences(const Tree& expected, const Tree& found);

@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <stdexcept>
 
 #include "platform/win32/win32_text.h"
+#include "tests/window/message_box.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
@@ -77,27 +77,14 @@ class RemoteMemory {
     RemoteEntry* place_;
 };
 
-// The window manager may still be about to move a dialog that has just appeared.
-void PressButton(HWND fileDialog, int button) {
-    constexpr int kClicks = 5;
-    for (int click = 0; click < kClicks; ++click) {
-        Click(CentreOf(GetDlgItem(fileDialog, button)));
-        if (Eventually([&] { return IsWindow(fileDialog) == FALSE; }, std::chrono::seconds(2))) {
-            return;
-        }
-    }
-    throw std::runtime_error("the dialog for a file does not go away");
-}
-
 }  // namespace
 
 HWND WaitForFileDialog(DWORD process, const std::string& title) {
-    return Found(Eventually([&]() -> HWND {
-                     const HWND dialog = FindTop(process, kDialogClass, title);
-                     return dialog != nullptr && IsUsable(GetDlgItem(dialog, kNameBox)) ? dialog
-                                                                                        : nullptr;
-                 }),
-                 "the dialog for a file \"" + title + "\"");
+    return Ready(Found(Eventually([&]() -> HWND {
+                           const HWND dialog = FindTop(process, kDialogClass, title);
+                           return IsUsable(GetDlgItem(dialog, kNameBox)) ? dialog : nullptr;
+                       }),
+                       "the dialog for a file \"" + title + "\""));
 }
 
 std::string OfferedName(HWND fileDialog) { return TextOf(GetDlgItem(fileDialog, kNameBox)); }
@@ -128,24 +115,14 @@ std::vector<std::string> FilesListed(HWND fileDialog) {
 }
 
 void TypeFileName(HWND fileDialog, const std::string& name) {
-    const HWND box = GetDlgItem(fileDialog, kNameBox);
-    // A click may come too early, as may the keys after it.
-    const bool typed = Eventually([&] {
-        Click(CentreOf(box));
-        Send(box, EM_SETSEL, 0, -1);
-        Type(name);
-        return Eventually([&] { return TextOf(box) == name; }, std::chrono::seconds(2));
-    });
-    if (!typed) {
-        throw std::runtime_error("the dialog for a file does not take the name " + name);
-    }
+    TypeOver(GetDlgItem(fileDialog, kNameBox), name);
 }
 
 void ChooseFile(HWND fileDialog, const std::string& name) {
     TypeFileName(fileDialog, name);
-    PressButton(fileDialog, IDOK);
+    AnswerBox(fileDialog, IDOK);
 }
 
-void CancelFileDialog(HWND fileDialog) { PressButton(fileDialog, IDCANCEL); }
+void CancelFileDialog(HWND fileDialog) { AnswerBox(fileDialog, IDCANCEL); }
 
 }  // namespace zentar::window_tests

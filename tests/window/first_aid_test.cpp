@@ -38,9 +38,9 @@ class FirstAid : public CommandsTest {
 
 TEST_F(FirstAid, TheSymptomsAreListedAndNoneIsShown) {
     const ZentarDriver& zentar = Open();
-    EXPECT_EQ(zentar.Items(IDC_lstSymptoms), Lines(SymptomTexts().begin(), SymptomTexts().end()));
-    EXPECT_EQ(zentar.Text(IDC_txtRemedy), "");
-    EXPECT_EQ(Buttons(), "--");
+    EXPECT_SOON(zentar.Items(IDC_lstSymptoms), Lines(SymptomTexts().begin(), SymptomTexts().end()));
+    EXPECT_SOON(zentar.Text(IDC_txtRemedy), "");
+    EXPECT_SOON(Buttons(), "--");
 }
 
 TEST_F(FirstAid, EachSymptomShowsItsRemedy) {
@@ -54,7 +54,7 @@ TEST_F(FirstAid, EachSymptomShowsItsRemedy) {
         situation.base = " \"baseq2\"";
         Pick(symptom);
         EXPECT_SOON(zentar.Text(IDC_txtRemedy), RemedyText(symptom, situation));
-        EXPECT_EQ(Buttons(), expected[i]) << i;
+        EXPECT_SOON(Buttons(), expected[i]) << i;
     }
 }
 
@@ -77,7 +77,7 @@ TEST_F(FirstAid, AnAutoexecIsMadeAndLaterOpened) {
          .defaultButton = IDNO},
         IDYES);
     EXPECT_EQ(CloseNotepad("autoexec").text, made);
-    EXPECT_EQ(ReadBytes(autoexec), made);
+    EXPECT_SOON(ReadBytes(autoexec), made);
 }
 
 TEST_F(FirstAid, AMessageIsWipedOutOfTheExecutable) {
@@ -99,7 +99,7 @@ TEST_F(FirstAid, AMessageIsWipedOutOfTheExecutable) {
     Answer(Failure({"The game's executable couldn't be changed.", "",
                     "The game may be running, or the file may be write-protected."}),
            IDOK);
-    EXPECT_TRUE(ReadBytes(game) == before);
+    EXPECT_SOON(ReadBytes(game) == before, true);
 }
 
 TEST_F(FirstAid, TheDriverIsSetAsideAndPutBack) {
@@ -109,12 +109,12 @@ TEST_F(FirstAid, TheDriverIsSetAsideAndPutBack) {
     WriteBytes(driver, "driver");
     Apply(Symptom::SoftwareMode);
     EXPECT_SOON(Buttons(), "-2");
-    EXPECT_EQ(ReadBytes(setAside), "driver");
-    EXPECT_FALSE(fs::exists(driver));
+    EXPECT_SOON(ReadBytes(setAside), "driver");
+    EXPECT_SOON(fs::exists(driver), false);
     zentar.ClickOn(IDC_cmdRemedy2);
     EXPECT_SOON(Buttons(), "1-");
-    EXPECT_EQ(ReadBytes(driver), "driver");
-    EXPECT_FALSE(fs::exists(setAside));
+    EXPECT_SOON(ReadBytes(driver), "driver");
+    EXPECT_SOON(fs::exists(setAside), false);
     WriteBytes(setAside, "another");
     Pick(Symptom::DemosPlayBadly);
     Pick(Symptom::SoftwareMode);
@@ -129,11 +129,11 @@ TEST_F(FirstAid, StraysAndScreenshotFolders) {
     WriteBytes(players / L"дуэль.pcx", "stray");
     Apply(Symptom::CrashOnModelChange);
     EXPECT_SOON(fs::exists(players / L"дуэль.pcx"), false);
-    EXPECT_EQ(ReadBytes(Quake2() / "Zentar Strays" / L"дуэль.pcx"), "stray");
-    EXPECT_EQ(ReadBytes(players / "male" / "tris.md2"), "model");
+    EXPECT_SOON(ReadBytes(Quake2() / "Zentar Strays" / L"дуэль.pcx"), "stray");
+    EXPECT_SOON(ReadBytes(players / "male" / "tris.md2"), "model");
     Apply(Symptom::CrashOnScreenshot);
     EXPECT_SOON(fs::is_directory(Quake2() / "Rocket Arena" / "scrnshot"), true);
-    EXPECT_FALSE(fs::exists(Quake2() / "Zentar Strays" / "scrnshot"));
+    EXPECT_SOON(fs::exists(Quake2() / "Zentar Strays" / "scrnshot"), false);
 }
 
 TEST_F(FirstAid, AVersionMismatchBringsQuake3) {
@@ -141,7 +141,7 @@ TEST_F(FirstAid, AVersionMismatchBringsQuake3) {
     Apply(Symptom::UnknownToAuth);
     EXPECT_SOON(zentar.Checked(IDC_optGameQuake3), true);
     EXPECT_SOON(zentar.Selected(IDC_lstSymptoms), "");
-    EXPECT_EQ(Buttons(), "--");
+    EXPECT_SOON(Buttons(), "--");
 }
 
 TEST_F(FirstAid, TheLogitechBoxTakesZeroOrOneOnly) {
@@ -149,11 +149,7 @@ TEST_F(FirstAid, TheLogitechBoxTakesZeroOrOneOnly) {
     Pick(Symptom::MousewheelDead);
     const auto answer = [&](const std::string& text) {
         zentar.ClickOn(IDC_cmdRemedy2);
-        const HWND box = zentar.WaitForWindow("ZentarForm", "Change Logitech Setting");
-        Type(text);
-        Press(VK_RETURN);
-        Eventually([box] { return IsWindowVisible(box) == FALSE; });
-        zentar.Settle();
+        zentar.AnswerInputBox("Change Logitech Setting", text);
     };
     for (const char* wrong : {"2", " 1", "01"}) {
         answer(wrong);
@@ -169,14 +165,13 @@ TEST_F(FirstAid, TheLogitechBoxTakesZeroOrOneOnly) {
             .defaultButton = IDNO},
            IDNO);
     zentar.ClickOn(IDC_cmdRemedy2);
-    const HWND box = zentar.WaitForWindow("ZentarForm", "Change Logitech Setting");
+    const HWND box = zentar.WaitForForm("Change Logitech Setting");
     bool found = false;
     for (const HWND child : Descendants(box)) {
         found = found || TextOf(child).find("(currently set to 1):") != std::string::npos;
     }
     EXPECT_TRUE(found);
-    Press(VK_ESCAPE);
-    Eventually([box] { return IsWindowVisible(box) == FALSE; });
+    zentar_->LeaveBy(VK_ESCAPE, box);
 }
 
 TEST_F(FirstAid, TheRegistryOfQuake3IsRestored) {
@@ -191,8 +186,8 @@ TEST_F(FirstAid, TheRegistryOfQuake3IsRestored) {
     };
     const std::wstring folder = (home_.Games() / "Quake3").wstring() + L"\\";
     EXPECT_SOON(value(L"INSTALLPATH") == folder, true);
-    EXPECT_EQ(value(L"CD"), L"D:\\setup\\");
-    EXPECT_EQ(value(L"INSTALLEXEPATH"), folder + L"quake3.exe");
+    EXPECT_SOON(value(L"CD") == L"D:\\setup\\", true);
+    EXPECT_SOON(value(L"INSTALLEXEPATH") == folder + L"quake3.exe", true);
 }
 
 }  // namespace

@@ -22,13 +22,9 @@ class FullViewWindow : public ShotsWindowTest {
 
     HWND OpenAgain() const {
         zentar_->ClickOn(IDC_imgShotView);
-        const HWND viewer = zentar_->WaitForWindow("ZentarForm", "Zentar - Screenshot");
+        const HWND viewer = zentar_->WaitForForm("Zentar - Screenshot");
         zentar_->Settle();
         return viewer;
-    }
-
-    static bool HasGone(HWND viewer) {
-        return Eventually([viewer] { return IsWindowVisible(viewer) == FALSE; });
     }
 
     static SIZE Screen() { return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
@@ -41,19 +37,19 @@ class FullViewWindow : public ShotsWindowTest {
 
 TEST_F(FullViewWindow, CoversTheScreenWithTheShotInItsMiddle) {
     const HWND viewer = OpenViewer("quake00.tga", 0);
-    RECT area{};
-    GetWindowRect(viewer, &area);
     const SIZE screen = Screen();
-    EXPECT_EQ(area.left, 0);
-    EXPECT_EQ(area.top, 0);
-    EXPECT_EQ(area.right, screen.cx);
-    EXPECT_EQ(area.bottom, screen.cy);
+    const RECT whole{0, 0, screen.cx, screen.cy};
+    EXPECT_TRUE(Eventually([&] {
+        RECT area{};
+        GetWindowRect(viewer, &area);
+        return EqualRect(&area, &whole) != FALSE;
+    }));
     EXPECT_SOON(IsGateOf(0, BesideCrossHair({screen.cx / 2, screen.cy / 2})), true);
     const LONG left = (screen.cx - 640) / 2;
-    EXPECT_EQ(PixelAt({left - 1, screen.cy / 2}), RGB(0, 0, 0));
-    EXPECT_NE(PixelAt({left + 1, screen.cy / 2 + 3}), RGB(0, 0, 0));
-    EXPECT_NE(PixelAt({left + 638, screen.cy / 2 + 3}), RGB(0, 0, 0));
-    EXPECT_EQ(PixelAt({left + 640, screen.cy / 2}), RGB(0, 0, 0));
+    EXPECT_SOON(PixelAt({left - 1, screen.cy / 2}), RGB(0, 0, 0));
+    EXPECT_SOON(PixelAt({left + 1, screen.cy / 2 + 3}) != RGB(0, 0, 0), true);
+    EXPECT_SOON(PixelAt({left + 638, screen.cy / 2 + 3}) != RGB(0, 0, 0), true);
+    EXPECT_SOON(PixelAt({left + 640, screen.cy / 2}), RGB(0, 0, 0));
     // It does not follow the mouse.
     HoldButton({screen.cx / 2, screen.cy / 2});
     MovePointer({screen.cx / 2 + 100, screen.cy / 2 + 60});
@@ -61,31 +57,26 @@ TEST_F(FullViewWindow, CoversTheScreenWithTheShotInItsMiddle) {
     ReleaseButton();
     zentar_->Settle();
     EXPECT_SOON(IsGateOf(0, BesideCrossHair({screen.cx / 2, screen.cy / 2})), true);
-    EXPECT_EQ(PixelAt({left - 1, screen.cy / 2}), RGB(0, 0, 0));
+    EXPECT_SOON(PixelAt({left - 1, screen.cy / 2}), RGB(0, 0, 0));
 }
 
 TEST_F(FullViewWindow, ClosesByKeysDoubleClickAndRightButton) {
     HWND viewer = OpenViewer("quake00.tga", 0);
     for (const int key : {VK_SPACE, VK_ESCAPE, VK_RETURN}) {
-        Press('X');
-        zentar_->Settle();
+        zentar_->PressKey('X');
         EXPECT_TRUE(IsWindowVisible(viewer));
-        Press(static_cast<WORD>(key));
-        EXPECT_TRUE(HasGone(viewer)) << key;
+        zentar_->LeaveBy(static_cast<WORD>(key), viewer);
         viewer = OpenAgain();
     }
     DoubleClick(CentreOf(viewer));
-    EXPECT_TRUE(HasGone(viewer));
+    zentar_->WaitUntilLeft(viewer);
     viewer = OpenAgain();
     Click(CentreOf(viewer), MouseButton::Right);
-    EXPECT_TRUE(HasGone(viewer));
+    zentar_->WaitUntilLeft(viewer);
     // The list opens it, too, and has the keyboard again afterwards.
     ClickShot("quake00.tga");
-    Press(VK_RETURN);
-    viewer = zentar_->WaitForWindow("ZentarForm", "Zentar - Screenshot");
-    zentar_->Settle();
-    Press(VK_ESCAPE);
-    EXPECT_TRUE(HasGone(viewer));
+    viewer = zentar_->OpenForm(VK_RETURN, "Zentar - Screenshot");
+    zentar_->LeaveBy(VK_ESCAPE, viewer);
     EXPECT_TRUE(zentar_->GetsFocus(IDC_lstScreenshots));
 }
 
@@ -116,8 +107,20 @@ TEST_F(FullViewWindow, ALargerShotIsDraggedUpToItsEdges) {
     // The right button closes it in the middle of a drag.
     HoldButton({screen.cx / 2, screen.cy / 2});
     Click({screen.cx / 2, screen.cy / 2}, MouseButton::Right);
-    EXPECT_TRUE(HasGone(viewer));
+    zentar_->WaitUntilLeft(viewer);
     ReleaseButton();
+}
+
+TEST_F(FullViewWindow, ArrowKeysMoveALargerShotForAsLongAsTheyAreHeld) {
+    const HWND viewer = OpenViewer("wide.tga", 5);
+    const SIZE screen = Screen();
+    zentar_->PressKey(VK_RIGHT);
+    zentar_->RepeatKey(VK_RIGHT);
+    zentar_->PressKey(VK_DOWN);
+    const POINT middle{screen.cx / 2 - 4 * 64, screen.cy / 2 - 64};
+    EXPECT_SOON(PixelAt(middle), RGB(255, 255, 255));
+    EXPECT_SOON(IsGateOf(5, BesideCrossHair(middle)), true);
+    zentar_->LeaveBy(VK_ESCAPE, viewer);
 }
 
 }  // namespace

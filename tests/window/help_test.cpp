@@ -13,7 +13,6 @@ namespace {
 
 class Help : public CommandsTest {
   protected:
-    HWND Wait() const { return zentar_->WaitForWindow("ZentarForm", "Zentar Help"); }
     // F1 on a tab of the main window.
     HWND OpenAt(int tab) {
         if (!zentar_) {
@@ -21,15 +20,11 @@ class Help : public CommandsTest {
         } else {
             zentar_->ShowTab(tab);
         }
-        zentar_->PressKey(VK_F1);
-        const HWND help = Wait();
-        zentar_->Settle();
-        return help;
+        return zentar_->OpenForm(VK_F1, "Zentar Help");
     }
     void Close(HWND help) const {
         PostMessageW(help, WM_CLOSE, 0, 0);
-        EXPECT_SOON(IsWindowVisible(help), FALSE);
-        zentar_->Settle();
+        zentar_->WaitUntilLeft(help);
     }
     static std::string TopEntry(HWND help) {
         const HWND list = FindControl(help, IDC_lstQuestions);
@@ -60,11 +55,11 @@ TEST_F(Help, OpensAtTheSectionOfTheTab) {
         const HWND help = OpenAt(tab);
         EXPECT_SOON(SelectedItemOf(FindControl(help, IDC_lstQuestions)), headings[tab]);
         if (tab != kFirstAidTab) {  // whose section stands too near the list's end
-            EXPECT_EQ(TopEntry(help), headings[tab]);
+            EXPECT_SOON(TopEntry(help), headings[tab]);
         }
-        EXPECT_EQ(ItemsOf(FindControl(help, IDC_lstQuestions)), HelpEntries());
-        EXPECT_EQ(Header(help), prompt_);
-        EXPECT_FALSE(IsUsable(FindControl(help, IDC_cmdBack)));
+        EXPECT_SOON(ItemsOf(FindControl(help, IDC_lstQuestions)), HelpEntries());
+        EXPECT_SOON(Header(help), prompt_);
+        EXPECT_SOON(IsUsable(FindControl(help, IDC_cmdBack)), false);
         Close(help);
     }
 }
@@ -87,16 +82,16 @@ TEST_F(Help, ATopicOpensByDoubleClickAndBackByItsButton) {
     const HWND back = FindControl(help, IDC_cmdBack);
     OpenTopic(help, "Playing Back A Demo");
     EXPECT_SOON(ShowsAnswer(help), true);
-    EXPECT_EQ(Header(help), "     Playing Back A Demo");
-    EXPECT_EQ(TextOf(FindControl(help, IDC_txtAnswer)),
-              std::string(FindHelpTopic("Playing Back A Demo")->answer));
-    EXPECT_TRUE(IsUsable(back));
+    EXPECT_SOON(Header(help), "     Playing Back A Demo");
+    EXPECT_SOON(TextOf(FindControl(help, IDC_txtAnswer)),
+                std::string(FindHelpTopic("Playing Back A Demo")->answer));
+    EXPECT_SOON(IsUsable(back), true);
     EXPECT_SOON(zentar_->Focused(), back);
-    Click(CentreOf(back));
+    zentar_->ClickIn(help, IDC_cmdBack);
     EXPECT_SOON(ShowsAnswer(help), false);
-    EXPECT_EQ(Header(help), prompt_);
+    EXPECT_SOON(Header(help), prompt_);
     EXPECT_SOON(zentar_->Focused(), FindControl(help, IDC_lstQuestions));
-    EXPECT_EQ(SelectedItemOf(FindControl(help, IDC_lstQuestions)), "     Playing Back A Demo");
+    EXPECT_SOON(SelectedItemOf(FindControl(help, IDC_lstQuestions)), "     Playing Back A Demo");
 }
 
 TEST_F(Help, TheKeyboardGoesThereAndBack) {
@@ -104,24 +99,22 @@ TEST_F(Help, TheKeyboardGoesThereAndBack) {
     const HWND list = FindControl(help, IDC_lstQuestions);
     const HWND answer = FindControl(help, IDC_txtAnswer);
     EXPECT_SOON(zentar_->Focused(), list);
-    Press(VK_RETURN);  // a heading
-    zentar_->Settle();
+    zentar_->PressKey(VK_RETURN);  // a heading
     EXPECT_FALSE(ShowsAnswer(help));
-    Press(VK_DOWN);
-    Press(VK_RETURN);
+    zentar_->PressKey(VK_DOWN);
+    zentar_->PressKey(VK_RETURN);
     EXPECT_SOON(ShowsAnswer(help), true);
-    Press(VK_BACK);  // on the button
+    zentar_->PressKey(VK_BACK);  // on the button
     EXPECT_SOON(ShowsAnswer(help), false);
     for (const WORD key : {WORD{VK_BACK}, WORD{VK_RETURN}}) {
-        Press(VK_RETURN);
+        zentar_->PressKey(VK_RETURN);
         EXPECT_SOON(ShowsAnswer(help), true);
-        PressWith(VK_SHIFT, VK_TAB);
+        zentar_->PressKeyWith(VK_SHIFT, VK_TAB);
         EXPECT_SOON(zentar_->Focused(), answer);
-        Press(key);
+        zentar_->PressKey(key);
         EXPECT_SOON(ShowsAnswer(help), false);
     }
-    Press(VK_ESCAPE);
-    EXPECT_SOON(IsWindowVisible(help), FALSE);
+    zentar_->LeaveBy(VK_ESCAPE, help);
 }
 
 TEST_F(Help, EveryAnswerFitsAndEveryTopicOpens) {
@@ -131,7 +124,7 @@ TEST_F(Help, EveryAnswerFitsAndEveryTopicOpens) {
             OpenTopic(help, std::string(topic.title));
             EXPECT_SOON(TextOf(FindControl(help, IDC_txtAnswer)), std::string(topic.answer));
             EXPECT_SOON(ShowsAnswer(help), true);
-            Press(VK_BACK);
+            zentar_->PressKey(VK_BACK);
             EXPECT_SOON(ShowsAnswer(help), false);
         }
     }

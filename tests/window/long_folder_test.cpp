@@ -37,10 +37,8 @@ class LongFolder : public ShotsWindowTest {
     }
 
     void Rename(const std::string& title, const std::string& name) const {
-        zentar_->PressKey(VK_F2);
-        zentar_->WaitForWindow("ZentarForm", title);
-        Type(name);
-        Press(VK_RETURN);
+        zentar_->OpenForm(VK_F2, title);
+        zentar_->AnswerInputBox(title, name);
     }
 
     fs::path game_;
@@ -53,17 +51,17 @@ TEST_F(LongFolder, ItsShotsAreShownConvertedRenamedAndDeleted) {
                 (Lines{"broken.tga", "Größe.tga", "quake00.tga", "quake01.tga", "QUAKE02.PCX",
                        "quake03.jpg", "wide.tga", "выстрел.pcx"}));
     View("выстрел.pcx", 4);
-    EXPECT_TRUE(fs::exists(Shot("выстрел.zentar")));
+    EXPECT_SOON(fs::exists(Shot("выстрел.zentar")), true);
     View("Größe.tga", 3);
     Choose("Größe.tga", IDM_mnuScreenshotMakeJPEGOnly);
     AnswerBox(zentar.WaitForBox("Done"), IDOK);
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "Größe.jpg *");
-    EXPECT_TRUE(ReadBytes(Shot("Größe.jpg")).starts_with("\xFF\xD8\xFF"));
+    EXPECT_SOON(ReadBytes(Shot("Größe.jpg")).starts_with("\xFF\xD8\xFF"), true);
     Rename("Rename Screenshot", "выше");
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "выше.jpg *");
-    EXPECT_TRUE(fs::exists(Shot("выше.jpg")));
+    EXPECT_SOON(fs::exists(Shot("выше.jpg")), true);
     zentar.Settle();
-    EXPECT_GT(TakePicture(zentar.Main(), "long folder"), 0U);
+    EXPECT_TRUE(TakesPicture(zentar.Main(), "long folder"));
     zentar.PressKey(VK_DELETE);
     EXPECT_SOON(fs::exists(Shot("выше.jpg")), false);
     EXPECT_SOON(zentar.Text(IDC_labNumShots), "Total: 8  (tga=5,  jpg=1,  pcx=2).");
@@ -76,8 +74,8 @@ TEST_F(LongFolder, ItsDemosAreReadRenamedAndDeleted) {
     EXPECT_SOON(zentar.Text(IDC_labDemoName), "Name: Warehouse");
     Rename("Rename Demo", "Größe дуэли");
     EXPECT_SOON(zentar.Selected(IDC_lstDemos), "Größe дуэли");
-    EXPECT_TRUE(fs::exists(Demo("Größe дуэли")));
-    EXPECT_FALSE(fs::exists(Demo("дуэль")));
+    EXPECT_SOON(fs::exists(Demo("Größe дуэли")), true);
+    EXPECT_SOON(fs::exists(Demo("дуэль")), false);
     zentar.PressKey(VK_DELETE);
     EXPECT_SOON(fs::exists(Demo("Größe дуэли")), false);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
@@ -102,7 +100,7 @@ TEST_F(LongFolder, ItAndItsModsAreNamedInFull) {
     EXPECT_GE(area.left, 0);
     EXPECT_LE(area.right, GetSystemMetrics(SM_CXSCREEN));
     zentar.Settle();
-    EXPECT_GT(TakePicture(box, "long folder in a box"), 0U);
+    EXPECT_TRUE(TakesPicture(box, "long folder in a box"));
     AnswerBox(box, IDOK);
 }
 

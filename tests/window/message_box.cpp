@@ -63,15 +63,14 @@ BoxContents ReadBox(HWND box, const WindowProbe& probe) {
 }
 
 void AnswerBox(HWND box, int button) {
-    // The window manager may still be about to move a window that has just appeared.
-    constexpr int kClicks = 10;
-    for (int click = 0; click < kClicks; ++click) {
-        Click(CentreOf(FindControl(box, button)));
-        if (Eventually([box] { return IsWindow(box) == FALSE; }, std::chrono::seconds(2))) {
-            return;
-        }
+    const HWND control = Found(FindControl(box, button), "button " + std::to_string(button));
+    Ready(box);
+    Click(CentreOf(control));
+    if (!Eventually([box] { return IsGone(box); }, kBeforeTryingAgain)) {
+        // The click may have gone beside it. Another one might come too late and go behind it.
+        PostMessageW(control, BM_CLICK, 0, 0);
     }
-    throw std::runtime_error("the box does not go away");
+    WaitUntilGone(box);
 }
 
 std::string BoxLines(const std::vector<std::string>& lines) {

@@ -59,9 +59,6 @@ constexpr int kMenuBar = 0;
 
 class Mnemonics : public ShotsWindowTest {
   protected:
-    static bool HasGone(HWND window) {
-        return Eventually([window] { return IsWindowVisible(window) == FALSE; });
-    }
     bool ListsAll() const { return zentar_->Checked(IDC_chkShowAllDemos); }
 };
 
@@ -83,11 +80,7 @@ TEST_F(Mnemonics, OfTheMainWindowAreThereOnceAndWork) {
     Open({"AutoShowAll=0", "DemosAll=0", "DemosFilter="});
     zentar_->ShowTab(kDemosTab);
     for (const char menu : {'P', 'G', 'H'}) {
-        PressWith(VK_MENU, static_cast<WORD>(menu));
-        const HWND popup = zentar_->WaitForWindow("#32768", "");
-        zentar_->ClosePopup(popup);
-        Press(VK_ESCAPE);  // leaves the menu bar as well
-        zentar_->Settle();
+        zentar_->CloseMenu(zentar_->OpenMenu(menu));
     }
     for (int tab = kShotsTab; tab <= kFirstAidTab; ++tab) {
         zentar_->ShowTab(tab);
@@ -99,7 +92,7 @@ TEST_F(Mnemonics, OfTheMainWindowAreThereOnceAndWork) {
         EXPECT_EQ(std::set<wchar_t>(letters.begin(), letters.end()).size(), letters.size()) << tab;
         // Where the letter stands it ticks the box, from wherever the keyboard is.
         const bool before = ListsAll();
-        PressWith(VK_MENU, 'L');
+        zentar_->PressKeyWith(VK_MENU, 'L');
         zentar_->Settle();
         EXPECT_SOON(ListsAll(), tab == kDemosTab ? !before : before);
         if (tab == kDemosTab) {
@@ -111,28 +104,26 @@ TEST_F(Mnemonics, OfTheMainWindowAreThereOnceAndWork) {
 TEST_F(Mnemonics, OfTheOtherWindowsAreThereOnceAndWork) {
     Open();
     zentar_->OpenMenuEntry('P', 'P');
-    const HWND preferences = zentar_->WaitForWindow("ZentarForm", "Preferences");
-    EXPECT_EQ(LettersOf(preferences), std::multiset<wchar_t>{});
-    Press(VK_ESCAPE);
-    EXPECT_TRUE(HasGone(preferences));
+    const HWND preferences = zentar_->WaitForForm("Preferences");
+    EXPECT_SOON(LettersOf(preferences), std::multiset<wchar_t>{});
+    zentar_->LeaveBy(VK_ESCAPE, preferences);
     zentar_->Settle();
 
-    zentar_->PressKey(VK_F1);
-    const HWND help = zentar_->WaitForWindow("ZentarForm", "Zentar Help");
+    const HWND help = zentar_->OpenForm(VK_F1, "Zentar Help");
     const HWND list = FindControl(help, IDC_lstQuestions);
     EXPECT_SOON(zentar_->Focused(), list);
     // Nothing to go back from.
-    EXPECT_EQ(LettersOf(help), std::multiset<wchar_t>{});
-    PressWith(VK_MENU, 'B');
+    EXPECT_SOON(LettersOf(help), std::multiset<wchar_t>{});
+    zentar_->PressKeyWith(VK_MENU, 'B');
     zentar_->Settle();
     EXPECT_TRUE(IsWindowVisible(list));
-    Press(VK_DOWN);
-    Press(VK_RETURN);
+    zentar_->PressKey(VK_DOWN);
+    zentar_->PressKey(VK_RETURN);
     EXPECT_SOON(IsWindowVisible(list), FALSE);
-    EXPECT_EQ(LettersOf(help), std::multiset<wchar_t>{L'b'});
-    PressWith(VK_SHIFT, VK_TAB);
+    EXPECT_SOON(LettersOf(help), std::multiset<wchar_t>{L'b'});
+    zentar_->PressKeyWith(VK_SHIFT, VK_TAB);
     EXPECT_SOON(zentar_->Focused(), FindControl(help, IDC_txtAnswer));
-    PressWith(VK_MENU, 'B');
+    zentar_->PressKeyWith(VK_MENU, 'B');
     EXPECT_SOON(IsWindowVisible(list) != FALSE, true);
     EXPECT_SOON(zentar_->Focused(), list);
 }

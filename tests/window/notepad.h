@@ -12,7 +12,8 @@ struct NotepadWindow {
     bool maximised = false;
 };
 
-// Waits for a Notepad whose title names the file. Without one, nothing.
+// Waits for a Notepad whose title names the file. Without one, nothing; throws
+// std::runtime_error when it does not close.
 NotepadWindow CloseNotepad(const std::string& file);
 
 }  // namespace zentar::window_tests

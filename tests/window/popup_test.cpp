@@ -110,8 +110,7 @@ TEST(DemosPopup, RefreshListRefreshesIt) {
     const ZentarDriver zentar(home);
     zentar.ShowTab(kDemosTab);
     std::filesystem::remove(home.Games() / "Quake2" / "baseq2" / "demos" / "untitled.dm2");
-    zentar.OpenPopup(IDC_lstDemos, "campaign");
-    Press('F');
+    zentar.Choose(IDC_lstDemos, "campaign", 'F');
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 7 of 7.");
 }
 

@@ -4,6 +4,7 @@
 #include "tests/window/commands_fixture.h"
 #include "tests/window/file_dialog.h"
 #include "tests/window/notepad.h"
+#include "tests/window/program_texts.h"
 #include "tests/window/waiting.h"
 #include "ui/resource.h"
 
@@ -16,14 +17,6 @@ const std::string kProgress =
     "seta g_spScores1 \"\\l0\\1\\l1\\1\\l2\\2\"\r\n"
     "seta g_spAwards \"\\a0\\3\\a1\\1\"\r\n"
     "seta g_spSkill \"2\"\r\n";
-
-const std::string kHead =
-    "// Zentar v0.99 BETA Quake 3 Single-Player Backup\r\n"
-    "// Web Site: " ZENTAR_WEB_SITE
-    "\r\n"
-    "// -----------------------------------------\r\n";
-const std::string kFoot =
-    "// ===================================================================\r\n";
 
 class Q3Config : public CommandsTest {
   protected:
@@ -51,20 +44,20 @@ TEST_F(Q3Config, ABackupIsSavedAndRestored) {
     const std::string config = ReadBytes(Config());
     zentar.ClickOn(IDC_cmdQ3Backup);
     const HWND save = SaveDialog();
-    EXPECT_EQ(OfferedName(save), "");
-    EXPECT_EQ(KindsIn(save), Lines{"Quake 3 single-player backups (*.cfg)"});
+    EXPECT_SOON(OfferedName(save), "");
+    EXPECT_SOON(KindsIn(save), Lines{"Quake 3 single-player backups (*.cfg)"});
     ChooseFile(save, "tier 1");
     EXPECT_SOON(fs::exists(Backups() / "tier 1.cfg"), true);
     zentar.Settle();
-    EXPECT_EQ(ReadBytes(Backups() / "tier 1.cfg"), kHead + kProgress + kFoot);
-    EXPECT_EQ(ReadBytes(Config()), config);
+    EXPECT_SOON(ReadBytes(Backups() / "tier 1.cfg"), kBackupHead + kProgress + kBackupFoot);
+    EXPECT_SOON(ReadBytes(Config()), config);
 
     zentar.ClickOn(IDC_cmdQ3Restore);
     Answer(reallyRestore_, IDNO);
     zentar.ClickOn(IDC_cmdQ3Restore);
     Answer(reallyRestore_, IDYES);
     const HWND open = OpenDialog();
-    EXPECT_EQ(KindsIn(open), Lines{"Quake 3 single-player backups (*.cfg)"});
+    EXPECT_SOON(KindsIn(open), Lines{"Quake 3 single-player backups (*.cfg)"});
     EXPECT_SOON(FilesListed(open), Lines{"tier 1.cfg"});
     ChooseFile(open, "tier 1.cfg");
     EXPECT_SOON(ReadBytes(Config()), config + kProgress);
@@ -77,8 +70,8 @@ TEST_F(Q3Config, TheTickAddsThePlayerAndIsKept) {
     ChooseFile(SaveDialog(), "all.cfg");
     EXPECT_SOON(fs::exists(Backups() / "all.cfg"), true);
     zentar.Settle();
-    EXPECT_EQ(ReadBytes(Backups() / "all.cfg"),
-              kHead + "seta name \"^1Ember^7Fox\"\r\n" + kProgress + kFoot);
+    EXPECT_SOON(ReadBytes(Backups() / "all.cfg"),
+                kBackupHead + "seta name \"^1Ember^7Fox\"\r\n" + kProgress + kBackupFoot);
     EXPECT_EQ(zentar.Close(), 0);
     EXPECT_NE(ReadBytes(home_.Ini()).find("\r\nBackupAll=1\r\n"), std::string::npos);
     const ZentarDriver& again = CommandsTest::Open(kMiscTab, {"BackupAll=1"});
@@ -91,7 +84,7 @@ TEST_F(Q3Config, OlderAndReadOnlyFilesAreAskedAbout) {
     zentar.ClickOn(IDC_cmdQ3Backup);
     ChooseFile(SaveDialog(), "old.cfg");
     Answer(Question({"Really overwrite the existing \"old\" backup file?"}), IDNO);
-    EXPECT_EQ(ReadBytes(Backups() / "old.cfg"), "older");
+    EXPECT_SOON(ReadBytes(Backups() / "old.cfg"), "older");
     MakeReadOnly(Backups() / "old.cfg");
     zentar.ClickOn(IDC_cmdQ3Backup);
     ChooseFile(SaveDialog(), "old.cfg");
@@ -100,7 +93,7 @@ TEST_F(Q3Config, OlderAndReadOnlyFilesAreAskedAbout) {
                                 "Would you like me to remove this setting to force the "
                                 "overwrite?"}),
            IDYES);
-    EXPECT_SOON(ReadBytes(Backups() / "old.cfg"), kHead + kProgress + kFoot);
+    EXPECT_SOON(ReadBytes(Backups() / "old.cfg"), kBackupHead + kProgress + kBackupFoot);
     MakeReadOnly(Config());
     zentar.ClickOn(IDC_cmdQ3Restore);
     Answer(reallyRestore_, IDYES);
@@ -136,9 +129,9 @@ TEST_F(Q3Config, TheConfigOpensInNotepadLineByLine) {
         const NotepadWindow notepad = CloseNotepad("q3config");
         EXPECT_EQ(notepad.text, converted);
         EXPECT_TRUE(notepad.maximised);
-        EXPECT_EQ(ReadBytes(Config()), converted);
+        EXPECT_SOON(ReadBytes(Config()), converted);
     }
-    EXPECT_TRUE(zentar.Checked(IDC_optGameQuake1));
+    EXPECT_SOON(zentar.Checked(IDC_optGameQuake1), true);
 }
 
 }  // namespace

@@ -24,17 +24,16 @@ class Q3Text : public CommandsTest {
     // Types into the editor, which gets the focus.
     void TypeText(const std::string& text) const {
         zentar_->ClickOn(IDC_rtbQ3Text);
-        Type(text);
-        zentar_->Settle();
+        EXPECT_TRUE(zentar_->GetsFocus(IDC_rtbQ3Text));
+        zentar_->TypeText(text);
     }
 
     // Selects so many characters at the end of the text.
     void SelectLast(int count) const {
-        Press(VK_END);
+        zentar_->PressKey(VK_END);
         for (int i = 0; i < count; ++i) {
-            PressWith(VK_SHIFT, VK_LEFT);
+            zentar_->PressKeyWith(VK_SHIFT, VK_LEFT);
         }
-        zentar_->Settle();
     }
 
     std::string Code() const { return zentar_->Text(IDC_txtQ3TextCode); }
@@ -45,21 +44,21 @@ class Q3Text : public CommandsTest {
 
 TEST_F(Q3Text, TheCodeFollowsWhatIsTypedAndColoured) {
     const ZentarDriver& zentar = Open();
-    EXPECT_EQ(Code(), "seta name \"^^0^7\"");
+    EXPECT_SOON(Code(), "seta name \"^^0^7\"");
     for (const int button : {IDC_cmdQ3TextSave, IDC_cmdQ3TextClipboard, IDC_cmdQ3TextQ3Config}) {
-        EXPECT_FALSE(zentar.Usable(button));
+        EXPECT_SOON(zentar.Usable(button), false);
     }
     TypeText("Fox");
     EXPECT_SOON(Code(), "seta name \"^^0Fox^7\"");
     for (const int button : {IDC_cmdQ3TextSave, IDC_cmdQ3TextClipboard, IDC_cmdQ3TextQ3Config}) {
-        EXPECT_TRUE(zentar.Usable(button));
+        EXPECT_SOON(zentar.Usable(button), true);
     }
     SelectLast(2);
     zentar.ClickOn(IDC_cmdQ3TextWhite);
     EXPECT_SOON(Code(), "seta name \"^^0F^7ox\"");
     // The editor has the keyboard again, and nothing is selected that typing would replace.
     EXPECT_TRUE(zentar.GetsFocus(IDC_rtbQ3Text));
-    Type("y");
+    zentar_->TypeText("y");
     EXPECT_SOON(Edited().size(), 4U);
     SelectLast(1);
     zentar.ClickOn(IDC_cmdQ3TextRed);
@@ -73,15 +72,15 @@ TEST_F(Q3Text, TheColourForWhatIsTypedNextCanBeChosen) {
     TypeText("ab");
     EXPECT_SOON(Code(), "seta name \"^3ab^7\"");
     zentar.ClickOn(IDC_cmdQ3TextCyan);
-    Type("c");
+    zentar_->TypeText("c");
     EXPECT_SOON(Code(), "seta name \"^3ab^5c^7\"");
 }
 
 TEST_F(Q3Text, ADoubleQuoteBecomesAnApostropheAndTheCaretStays) {
     Open();
     TypeText("ab");
-    Press(VK_LEFT);
-    Type("\"x");
+    zentar_->PressKey(VK_LEFT);
+    zentar_->TypeText("\"x");
     EXPECT_SOON(Edited(), "a'xb");
     EXPECT_SOON(Code(), "seta name \"^^0a'xb^7\"");
 }
@@ -92,7 +91,7 @@ TEST_F(Q3Text, UndoTakesBackAColour) {
     SelectLast(1);
     zentar.ClickOn(IDC_cmdQ3TextGreen);
     EXPECT_SOON(Code(), "seta name \"^^0a^2b^7\"");
-    PressWith(VK_CONTROL, 'Z');
+    zentar_->PressKeyWith(VK_CONTROL, 'Z');
     EXPECT_SOON(Code(), "seta name \"^^0ab^7\"");
 }
 
@@ -120,16 +119,18 @@ TEST_F(Q3Text, TypesAndOptionsChangeTheCode) {
 
 TEST_F(Q3Text, RichTextIsPastedWithItsColoursAlone) {
     Open();
-    EXPECT_TRUE(PutOnClipboard(
-        {.rtf = R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}{\colortbl;\red255\green0\blue0;)"
-                R"(\red18\green52\blue86;}{\object\objemb{\*\objdata 0105}{\result \cf1 X}})"
-                R"(\f0\fs96\cf1 ab\cf2 cde\par})",
-         .text = {}}));
+    EXPECT_SOON(
+        PutOnClipboard(
+            {.rtf = R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}{\colortbl;\red255\green0\blue0;)"
+                    R"(\red18\green52\blue86;}{\object\objemb{\*\objdata 0105}{\result \cf1 X}})"
+                    R"(\f0\fs96\cf1 ab\cf2 cde\par})",
+             .text = {}}),
+        true);
     TypeText("");
-    PressWith(VK_CONTROL, 'V');
+    zentar_->PressKeyWith(VK_CONTROL, 'V');
     // The second colour is none of the game's, which takes the character where it begins.
     EXPECT_SOON(Code(), "seta name \"^1abde^7\"");
-    PressWith(VK_CONTROL, 'Z');
+    zentar_->PressKeyWith(VK_CONTROL, 'Z');
     EXPECT_SOON(Edited(), "");
 }
 
@@ -143,8 +144,8 @@ TEST_F(Q3Text, ADesignOfAnyNameIsSavedAndOpenedAgain) {
     zentar.ClickOn(IDC_cmdQ3TextBlue);
     zentar.ClickOn(IDC_cmdQ3TextSave);
     const HWND save = WaitForFileDialog(zentar.Process(), "Save Quake 3 coloured text");
-    EXPECT_TRUE(OfferedName(save).starts_with("a[FS]b[C]c"));
-    EXPECT_EQ(KindsIn(save), Lines{"Quake 3 coloured text (*.ini)"});
+    EXPECT_SOON(OfferedName(save).starts_with("a[FS]b[C]c"), true);
+    EXPECT_SOON(KindsIn(save), Lines{"Quake 3 coloured text (*.ini)"});
     ChooseFile(save, "дуэль");
     EXPECT_SOON(fs::exists(design), true);
     zentar.Settle();
@@ -187,7 +188,7 @@ TEST_F(Q3Text, SavingOverADesignAsks) {
     save();
     Answer(overwrite, IDYES);
     Answer(readOnly, IDNO);
-    EXPECT_EQ(ReadBytes(design), "old");
+    EXPECT_SOON(ReadBytes(design), "old");
     save();
     Answer(overwrite, IDYES);
     Answer(readOnly, IDYES);
@@ -197,7 +198,7 @@ TEST_F(Q3Text, SavingOverADesignAsks) {
 TEST_F(Q3Text, TheCodeGoesToTheClipboard) {
     const ZentarDriver& zentar = Open();
     TypeText("Fox");
-    EXPECT_TRUE(PutOnClipboard({}));
+    EXPECT_SOON(PutOnClipboard({}), true);
     const BoxContents question = Question({"Really copy the code to the Windows clipboard?"});
     zentar.ClickOn(IDC_cmdQ3TextClipboard);
     Answer(question, IDNO);
@@ -218,7 +219,7 @@ TEST_F(Q3Text, TheCodeIsAddedToTheConfigWhateverTheGame) {
     const BoxContents question = Question({"Really add the code to \"q3config.cfg\" ?"});
     zentar.ClickOn(IDC_cmdQ3TextQ3Config);
     Answer(question, IDNO);
-    EXPECT_EQ(ReadBytes(Config()), config);
+    EXPECT_SOON(ReadBytes(Config()), config);
     MakeReadOnly(Config());
     zentar.ClickOn(IDC_cmdQ3TextQ3Config);
     Answer(question, IDYES);
@@ -244,8 +245,8 @@ TEST_F(Q3Text, TheCurrentDesignIsThereFromTheStart) {
     const ZentarDriver& zentar = Open();
     EXPECT_SOON(Code(), "seta name \"^6Mag^7ic\"");
     zentar.ClickOn(IDC_rtbQ3Text);
-    Press(VK_END);
-    Type("!");
+    zentar_->PressKey(VK_END);
+    zentar_->TypeText("!");
     EXPECT_SOON(Code(), "seta name \"^6Mag^7ic!\"");
 }
 

@@ -19,8 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t kSmallestPicture = 5'000;
-
 struct Match {
     const char* demo;
     const char* map;
@@ -95,11 +93,8 @@ const IniLines kSettings = {"Remote=C:\\Games\\Remote\\",
                             "Player6Name=[CP] Rocketeer",
                             "Player7Name=camper42"};
 
-// A window that has just come may still wait for its place on the desktop.
 void Take(HWND window, const std::string& name) {
-    EXPECT_TRUE(Eventually([&] {
-        return TakePicture(window, "readme " + name) > kSmallestPicture;
-    })) << name;
+    EXPECT_TRUE(TakesPicture(window, "readme " + name)) << name;
 }
 
 void TakeTabs(const ZentarDriver& zentar) {
@@ -121,17 +116,15 @@ void TakeTabs(const ZentarDriver& zentar) {
 }
 
 void TakeOtherWindows(const ZentarDriver& zentar) {
-    zentar.PressKey(VK_F1);
-    const HWND help = zentar.WaitForWindow("ZentarForm", "Zentar Help");
+    const HWND help = zentar.OpenForm(VK_F1, "Zentar Help");
     zentar.Settle();
-    Press(VK_DOWN);
-    Press(VK_RETURN);
+    zentar.PressKey(VK_DOWN);
+    zentar.PressKey(VK_RETURN);
     zentar.Settle();
     Take(help, "help");
-    Press(VK_ESCAPE);
-    Eventually([help] { return IsWindowVisible(help) == FALSE; });
+    zentar.LeaveBy(VK_ESCAPE, help);
     zentar.OpenMenuEntry('P', 'P');
-    const HWND preferences = zentar.WaitForWindow("ZentarForm", "Preferences");
+    const HWND preferences = zentar.WaitForForm("Preferences");
     zentar.Settle();
     Take(preferences, "preferences");
 }

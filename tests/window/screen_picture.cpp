@@ -3,12 +3,14 @@
 #include <wincodec.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <vector>
 
 #include "platform/nviewlib/win32/resources.h"
 #include "platform/win32/win32_text.h"
+#include "tests/window/waiting.h"
 #include "tests/window/zentar_home.h"
 
 namespace zentar::window_tests {
@@ -63,9 +65,8 @@ void SavePng(HBITMAP bitmap, const std::filesystem::path& file) {
     encoder->Commit();
 }
 
-}  // namespace
-
-std::uintmax_t TakePicture(HWND window, const std::string& name) {
+// Gives the length of the file.
+std::uintmax_t SavePicture(HWND window, const std::string& name) {
     RECT area{};
     GetWindowRect(window, &area);
     // The frame of a maximised window lies outside, from where nothing can be copied.
@@ -78,6 +79,14 @@ std::uintmax_t TakePicture(HWND window, const std::string& name) {
     CoUninitialize();
     DeleteObject(bitmap);
     return std::filesystem::file_size(file);
+}
+
+}  // namespace
+
+bool TakesPicture(HWND window, const std::string& name) {
+    // One of nothing but one colour is smaller.
+    constexpr std::uintmax_t kSmallestPicture = 2'000;
+    return Eventually([&] { return SavePicture(window, name) > kSmallestPicture; });
 }
 
 COLORREF PixelAt(POINT place) {

@@ -3,16 +3,15 @@
 
 #include <windows.h>
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
 namespace zentar::window_tests {
 
 // Saves the part of the screen that a window takes up as <name>.png in the folder that the
-// environment variable ZENTAR_PICTURES names, or in "pictures" beside the built program.
-// Gives the length of the file.
-std::uintmax_t TakePicture(HWND window, const std::string& name);
+// environment variable ZENTAR_PICTURES names, or in "pictures" beside the built program. Waits
+// until there is more to be seen than one colour; false when there never is.
+bool TakesPicture(HWND window, const std::string& name);
 
 // The colour of one pixel of the screen.
 COLORREF PixelAt(POINT place);

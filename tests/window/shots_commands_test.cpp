@@ -51,10 +51,10 @@ TEST_F(ShotCommands, MakesAJpgAndKeepsTheOriginal) {
     const ZentarDriver& zentar = Open();
     Choose("quake00.tga", IDM_mnuScreenshotMakeJPEGOnly);
     AnswerDone(kTga640, "quake00.jpg");
-    EXPECT_TRUE(IsJpg("quake00.jpg"));
-    EXPECT_TRUE(IsHere("quake00.tga"));
-    EXPECT_FALSE(fs::exists(home_.Program() / "tmp.bmp"));
-    EXPECT_EQ(zentar.Selected(IDC_lstScreenshots), "quake00.jpg *");
+    EXPECT_SOON(IsJpg("quake00.jpg"), true);
+    EXPECT_SOON(IsHere("quake00.tga"), true);
+    EXPECT_SOON(fs::exists(home_.Program() / "tmp.bmp"), false);
+    EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "quake00.jpg *");
     EXPECT_SOON(ViewShowsHall(0), true);
     EXPECT_SOON(zentar.Text(IDC_labNumShots), "Total: 9  (tga=5,  jpg=2,  pcx=2).");
 }
@@ -65,12 +65,12 @@ TEST_F(ShotCommands, KillsTheOriginalWhenTheUserWantsThat) {
     const auto length = static_cast<long long>(fs::file_size(Shots() / "QUAKE02.PCX"));
     Answer(Question(kReallyKill), IDYES);
     AnswerDone(length, "QUAKE02.jpg");
-    EXPECT_FALSE(IsHere("QUAKE02.PCX"));
-    EXPECT_EQ(zentar.Selected(IDC_lstScreenshots), "QUAKE02.jpg *");
+    EXPECT_SOON(IsHere("QUAKE02.PCX"), false);
+    EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "QUAKE02.jpg *");
     Choose("quake00.tga", IDM_mnuScreenshotMakeJPEGAndKill);
     Answer(Question(kReallyKill), IDNO);
     AnswerDone(kTga640, "quake00.jpg");
-    EXPECT_TRUE(IsHere("quake00.tga"));
+    EXPECT_SOON(IsHere("quake00.tga"), true);
 }
 
 TEST_F(ShotCommands, TheWishToKillOutlivesAConversionThatEndedEarly) {
@@ -79,12 +79,12 @@ TEST_F(ShotCommands, TheWishToKillOutlivesAConversionThatEndedEarly) {
     Choose("quake00.tga", IDM_mnuScreenshotMakeJPEGAndKill);
     Answer(Question(kReallyKill), IDYES);
     Answer(Question(kReallyOverwriteJpg), IDNO);
-    EXPECT_EQ(ReadBytes(Shots() / "quake00.jpg"), "old");
+    EXPECT_SOON(ReadBytes(Shots() / "quake00.jpg"), "old");
     Choose("quake00.tga", IDM_mnuScreenshotMakeJPEGOnly);
     Answer(Question(kReallyOverwriteJpg), IDYES);
     AnswerDone(kTga640, "quake00.jpg");
-    EXPECT_TRUE(IsJpg("quake00.jpg"));
-    EXPECT_FALSE(IsHere("quake00.tga"));
+    EXPECT_SOON(IsJpg("quake00.jpg"), true);
+    EXPECT_SOON(IsHere("quake00.tga"), false);
 }
 
 TEST_F(ShotCommands, AReadOnlyJpgIsAskedAboutInExpertModeToo) {
@@ -96,32 +96,30 @@ TEST_F(ShotCommands, AReadOnlyJpgIsAskedAboutInExpertModeToo) {
                              "Would you like me to remove this setting and force the overwrite?"});
     Choose("quake00.tga", IDM_mnuScreenshotMakeJPEGOnly);
     Answer(question, IDNO);
-    EXPECT_EQ(ReadBytes(Shots() / "quake00.jpg"), "old");
+    EXPECT_SOON(ReadBytes(Shots() / "quake00.jpg"), "old");
     Choose("quake00.tga", IDM_mnuScreenshotMakeJPEGOnly);
     Answer(question, IDYES);
     AnswerDone(kTga640, "quake00.jpg");
-    EXPECT_TRUE(IsJpg("quake00.jpg"));
+    EXPECT_SOON(IsJpg("quake00.jpg"), true);
 }
 
 TEST_F(ShotCommands, SetsTheWallpaperAndDeletesWhatItMade) {
-    const std::wstring before = CurrentWallpaper();
+    const KeptWallpaper kept;
     const fs::path file = WindowsFolder() / "[Zentar] quake00.bmp";
     const ZentarDriver& zentar = Open();
     Choose("quake00.tga", IDM_mnuScreenshotSetWallpaper);
     EXPECT_SOON(CurrentWallpaper() == file.wstring(), true);
     zentar.Settle();
-    EXPECT_EQ(fs::file_size(file), 54U + 640 * 480 * 3);
+    EXPECT_SOON(fs::file_size(file), 54U + 640 * 480 * 3);
     Choose("quake00.tga", IDM_mnuScreenshotSetWallpaper);
     Answer(Question({"Really overwrite the existing wallpaper with this name?"}), IDNO);
     Choose("quake00.tga", IDM_mnuScreenshotDeleteAllWallpaper);
     Answer(Question({"Really delete all Zentar-created wallpaper?"}), IDYES);
-    EXPECT_FALSE(fs::exists(file));
+    EXPECT_SOON(fs::exists(file), false);
     EXPECT_EQ(CurrentWallpaper(), file.wstring());
     const HWND popup = zentar.OpenPopup(IDC_lstScreenshots, "quake00.tga *");
     EXPECT_FALSE(zentar.PopupLine(popup, IDM_mnuScreenshotDeleteAllWallpaper).enabled);
     zentar.ClosePopup(popup);
-    SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, const_cast<wchar_t*>(before.c_str()),
-                          SPIF_UPDATEINIFILE);
 }
 
 TEST_F(ShotCommands, DeleteAsksAndShowsTheNextShotIfSoPreferred) {
@@ -129,11 +127,11 @@ TEST_F(ShotCommands, DeleteAsksAndShowsTheNextShotIfSoPreferred) {
     View("quake00.tga", 0);
     zentar.PressKey(VK_DELETE);
     Answer(Question({"Really delete this screenshot?"}), IDNO);
-    EXPECT_TRUE(IsHere("quake00.tga"));
+    EXPECT_SOON(IsHere("quake00.tga"), true);
     zentar.PressKey(VK_BACK);
     Answer(Question({"Really delete this screenshot?"}), IDYES);
-    EXPECT_FALSE(IsHere("quake00.tga"));
-    EXPECT_FALSE(IsHere("quake00.zentar"));
+    EXPECT_SOON(IsHere("quake00.tga"), false);
+    EXPECT_SOON(IsHere("quake00.zentar"), false);
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "quake01.tga *");
     EXPECT_SOON(ViewShowsHall(1), true);
     MakeReadOnly(Shots() / "quake01.tga");
@@ -142,16 +140,16 @@ TEST_F(ShotCommands, DeleteAsksAndShowsTheNextShotIfSoPreferred) {
     Answer(FailureWithQuestion({"Screenshot couldn't be deleted due to being set as read-only.",
                                 "Would you like me to remove this setting to force the deletion?"}),
            IDYES);
-    EXPECT_FALSE(IsHere("quake01.tga"));
+    EXPECT_SOON(IsHere("quake01.tga"), false);
 }
 
 TEST_F(ShotCommands, ShiftAndDeleteDeleteThePreviewAloneAndThePictureStays) {
     const ZentarDriver& zentar = Open();
     View("quake00.tga", 0);
-    PressWith(VK_SHIFT, VK_DELETE);
+    zentar.PressKeyWith(VK_SHIFT, VK_DELETE);
     Answer(Question({"Really delete this screenshot's preview image?"}), IDYES);
-    EXPECT_FALSE(IsHere("quake00.zentar"));
-    EXPECT_TRUE(IsHere("quake00.tga"));
+    EXPECT_SOON(IsHere("quake00.zentar"), false);
+    EXPECT_SOON(IsHere("quake00.tga"), true);
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "quake00.tga");
     EXPECT_SOON(ViewShowsHall(0), true);
     View("quake01.tga", 1);
@@ -161,7 +159,7 @@ TEST_F(ShotCommands, ShiftAndDeleteDeleteThePreviewAloneAndThePictureStays) {
     Answer(FailureWithQuestion({"Preview couldn't be deleted due to being set as read-only.",
                                 "Would you like me to remove this setting and force the delete?"}),
            IDYES);
-    EXPECT_FALSE(IsHere("quake01.zentar"));
+    EXPECT_SOON(IsHere("quake01.zentar"), false);
 }
 
 TEST_F(ShotCommands, DeletingAllOfAKindFollowsTheRulesOfSharedPreviews) {
@@ -172,23 +170,23 @@ TEST_F(ShotCommands, DeletingAllOfAKindFollowsTheRulesOfSharedPreviews) {
     zentar.PressKey(VK_F5);
     Choose("wide.tga", IDM_mnuScreenshotDeleteAllJPG);
     Answer(Question({"Really delete all JPG images?"}), IDYES);
-    EXPECT_FALSE(IsHere("a.jpg"));
-    EXPECT_FALSE(IsHere("a.zentar"));
-    EXPECT_TRUE(IsHere("b.zentar"));
-    EXPECT_FALSE(IsHere("quake03.jpg"));
+    EXPECT_SOON(IsHere("a.jpg"), false);
+    EXPECT_SOON(IsHere("a.zentar"), false);
+    EXPECT_SOON(IsHere("b.zentar"), true);
+    EXPECT_SOON(IsHere("quake03.jpg"), false);
     Choose("wide.tga", IDM_mnuScreenshotDeleteAllPCX);
     Answer(Question({"Really delete all PCX screenshots?"}), IDYES);
-    EXPECT_FALSE(IsHere("b.pcx"));
-    EXPECT_FALSE(IsHere("b.zentar"));
-    EXPECT_FALSE(IsHere("QUAKE02.PCX"));
+    EXPECT_SOON(IsHere("b.pcx"), false);
+    EXPECT_SOON(IsHere("b.zentar"), false);
+    EXPECT_SOON(IsHere("QUAKE02.PCX"), false);
     Choose("wide.tga", IDM_mnuScreenshotDeleteAllPreview);
     Answer(Question({"Really delete all preview images?"}), IDYES);
-    EXPECT_FALSE(IsHere("wide.zentar"));
-    EXPECT_TRUE(IsHere("wide.tga"));
+    EXPECT_SOON(IsHere("wide.zentar"), false);
+    EXPECT_SOON(IsHere("wide.tga"), true);
     Choose("wide.tga", IDM_mnuScreenshotDeleteAllTGA);
     Answer(Question({"Really delete all TGA screenshots?"}), IDYES);
     EXPECT_SOON(zentar.Text(IDC_labNumShots), "Total: 0  (tga=0,  jpg=0,  pcx=0).");
-    EXPECT_TRUE(IsHere("notes.txt"));
+    EXPECT_SOON(IsHere("notes.txt"), true);
 }
 
 TEST_F(ShotCommands, DeletingAllLeavesOtherFiles) {
@@ -197,37 +195,33 @@ TEST_F(ShotCommands, DeletingAllLeavesOtherFiles) {
     Choose("wide.tga", IDM_mnuScreenshotDeleteAll);
     Answer(Question({"Really delete all images/shots?"}), IDYES);
     EXPECT_SOON(zentar.Text(IDC_labNumShots), "Total: 0  (tga=0,  jpg=0,  pcx=0).");
-    EXPECT_TRUE(IsHere("notes.txt"));
+    EXPECT_SOON(IsHere("notes.txt"), true);
     EXPECT_EQ(std::distance(fs::directory_iterator(Shots()), fs::directory_iterator()), 1);
 }
 
 class ShotNames : public ShotCommands {
   protected:
     void Rename(const std::string& name) const {
-        zentar_->PressKey(VK_F2);
-        zentar_->WaitForWindow("ZentarForm", "Rename Screenshot");
-        Type(name);
-        Press(VK_RETURN);
+        zentar_->OpenForm(VK_F2, "Rename Screenshot");
+        zentar_->AnswerInputBox("Rename Screenshot", name);
     }
 };
 
 TEST_F(ShotNames, RenamingTakesThePreviewAlongAndKeepsThePicture) {
     const ZentarDriver& zentar = Open();
     View("quake00.tga", 0);
-    zentar.PressKey(VK_F2);
-    const HWND box = zentar.WaitForWindow("ZentarForm", "Rename Screenshot");
+    const HWND box = zentar.OpenForm(VK_F2, "Rename Screenshot");
     Lines texts;
     for (const HWND control : Descendants(box)) {
         texts.push_back(TextOf(control));
     }
     EXPECT_EQ(texts, (Lines{"Enter new name for \"quake00\".\r\n\r\n(Do not type the extension).",
                             "quake00", "OK", "Cancel"}));
-    Type("größte Halle");
-    Press(VK_RETURN);
+    zentar.AnswerInputBox("Rename Screenshot", "größte Halle");
     EXPECT_SOON(zentar.Selected(IDC_lstScreenshots), "größte Halle.tga *");
     EXPECT_SOON(ViewShowsHall(0), true);
-    EXPECT_TRUE(IsHere("größte Halle.zentar"));
-    EXPECT_FALSE(IsHere("quake00.zentar"));
+    EXPECT_SOON(IsHere("größte Halle.zentar"), true);
+    EXPECT_SOON(IsHere("quake00.zentar"), false);
 }
 
 TEST_F(ShotNames, NamesThatCannotBeAreRefused) {
@@ -249,8 +243,8 @@ TEST_F(ShotNames, NamesThatCannotBeAreRefused) {
                  "It may be too long, or be a name that Windows", "keeps for itself (eg. con)."}),
         IDOK);
     EXPECT_FALSE(zentar.HasBox());
-    EXPECT_TRUE(IsHere("quake00.tga"));
-    EXPECT_EQ(fs::file_size(Shots() / "quake01.tga"), 18U + 1024 * 768 * 3);
+    EXPECT_SOON(IsHere("quake00.tga"), true);
+    EXPECT_SOON(fs::file_size(Shots() / "quake01.tga"), 18U + 1024 * 768 * 3);
 }
 
 TEST_F(ShotCommands, CopiesWithoutAskingAndMovesOnOneDrive) {
@@ -269,8 +263,8 @@ TEST_F(ShotCommands, CopiesWithoutAskingAndMovesOnOneDrive) {
                              "Would you like me to remove this setting to force the overwrite?"}),
         IDYES);
     EXPECT_SOON(IsHere("quake00.tga"), false);
-    EXPECT_TRUE(ReadBytes(there) == bytes);
-    EXPECT_TRUE(IsHere("quake00.zentar"));
+    EXPECT_SOON(ReadBytes(there) == bytes, true);
+    EXPECT_SOON(IsHere("quake00.zentar"), true);
     EXPECT_SOON(zentar.Text(IDC_labNumShots), "Total: 7  (tga=4,  jpg=1,  pcx=2).");
 }
 

@@ -1,10 +1,8 @@
 #include "tests/window/shots_fixture.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 #include "platform/win32/win32_text.h"
-#include "screenshots/shot_name.h"
 #include "tests/window/screen_picture.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
@@ -27,21 +25,12 @@ bool ShotsWindowTest::IsHere(const std::string& file) const {
     return fs::exists(Shots() / Widen(file));
 }
 
-std::string ShotsWindowTest::EntryOf(const std::string& shot) const {
-    for (const std::string& entry : zentar_->Items(IDC_lstScreenshots)) {
-        if (ShotOfEntry(entry) == shot) {
-            return entry;
-        }
-    }
-    return shot;
-}
-
 void ShotsWindowTest::ClickShot(const std::string& shot) const {
-    zentar_->ClickItem(IDC_lstScreenshots, EntryOf(shot));
+    zentar_->ClickItem(IDC_lstScreenshots, shot);
 }
 
 void ShotsWindowTest::Choose(const std::string& shot, int command) const {
-    zentar_->ChooseCommand(IDC_lstScreenshots, EntryOf(shot), command);
+    zentar_->ChooseCommand(IDC_lstScreenshots, shot, command);
 }
 
 // Beside the cross-hair in the middle.

@@ -11,9 +11,8 @@ class ShotsWindowTest : public CommandsTest {
 
     std::filesystem::path Shots() const;
     bool IsHere(const std::string& file) const;
-    // Clicks on the entry of a shot, with its marker or without.
+    // Clicks on the entry of a shot.
     void ClickShot(const std::string& shot) const;
-    std::string EntryOf(const std::string& shot) const;
     // Picks a command on a shot from the popup menu.
     void Choose(const std::string& shot, int command) const;
     // Shows a shot and waits until it is seen.

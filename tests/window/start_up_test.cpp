@@ -17,9 +17,9 @@ TEST(StartUp, TheStoredGameIsSelectedAndItsModsAreListedWithoutTheFoldersThatAre
     const ZentarHome home;
     home.WriteIni();
     const ZentarDriver zentar(home);
-    EXPECT_TRUE(zentar.Checked(IDC_optGameQuake2));
-    EXPECT_FALSE(zentar.Checked(IDC_optGameQuake1));
-    EXPECT_FALSE(zentar.Checked(IDC_optGameQuake3));
+    EXPECT_SOON(zentar.Checked(IDC_optGameQuake2), true);
+    EXPECT_SOON(zentar.Checked(IDC_optGameQuake1), false);
+    EXPECT_SOON(zentar.Checked(IDC_optGameQuake3), false);
     EXPECT_SOON(zentar.Items(IDC_lstMods),
                 (Lines{"baseq2", "ctf", "docs2", "lithium", "rocket arena"}));
     EXPECT_SOON(zentar.Selected(IDC_lstMods), "baseq2");
@@ -59,10 +59,10 @@ TEST(StartUp, AMissingGameShowsAnEmptyListThatCannotBeUsed) {
     const ZentarDriver zentar(home);
     zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Items(IDC_lstMods), Lines{});
-    EXPECT_FALSE(zentar.Usable(IDC_lstMods));
-    EXPECT_FALSE(zentar.Usable(IDC_labMod));
+    EXPECT_SOON(zentar.Usable(IDC_lstMods), false);
+    EXPECT_SOON(zentar.Usable(IDC_labMod), false);
     EXPECT_SOON(zentar.Items(IDC_lstDemos), Lines{});
-    EXPECT_FALSE(zentar.Usable(IDC_lstDemos));
+    EXPECT_SOON(zentar.Usable(IDC_lstDemos), false);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 0 of 0.");
 }
 
@@ -72,15 +72,15 @@ TEST(StartUp, AModWithoutADemosFolderShowsAnEmptyListThatCannotBeUsed) {
     const ZentarDriver zentar(home);
     zentar.ShowTab(kDemosTab);
     EXPECT_SOON(zentar.Text(IDC_labNumDemos), "Total listed: 0 of 0.");
-    EXPECT_FALSE(zentar.Usable(IDC_lstDemos));
-    EXPECT_TRUE(zentar.Usable(IDC_lstMods));
+    EXPECT_SOON(zentar.Usable(IDC_lstDemos), false);
+    EXPECT_SOON(zentar.Usable(IDC_lstMods), true);
 }
 
 TEST(StartUp, TheFolderForColouredTextsIsMade) {
     const ZentarHome home;
     home.WriteIni();
     const ZentarDriver zentar(home);
-    EXPECT_TRUE(std::filesystem::is_directory(home.Program() / "data" / "q3text"));
+    EXPECT_SOON(std::filesystem::is_directory(home.Program() / "data" / "q3text"), true);
 }
 
 BoxContents Welcome() {
@@ -109,24 +109,24 @@ TEST(StartUp, TemporaryFilesOfACrashedRunAreGone) {
     SetFileAttributesW(config.c_str(), FILE_ATTRIBUTE_READONLY);
     const ZentarDriver zentar(home);
     for (const std::filesystem::path& file : stale) {
-        EXPECT_FALSE(std::filesystem::exists(file)) << file;
+        EXPECT_SOON(std::filesystem::exists(file), false) << file;
     }
-    EXPECT_EQ(ReadBytes(config), "bind");
+    EXPECT_SOON(ReadBytes(config), "bind");
     EXPECT_EQ(GetFileAttributesW(config.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
 }
 
 // A new user has read the author's details.
 void CloseHelp(const ZentarDriver& zentar) {
-    PostMessageW(zentar.WaitForWindow("ZentarForm", "Zentar Help"), WM_CLOSE, 0, 0);
+    PostMessageW(zentar.WaitForForm("Zentar Help"), WM_CLOSE, 0, 0);
 }
 
 TEST(FirstRun, TheWelcomeIsFollowedByTheCurrentFolders) {
     const ZentarHome home;
     ZentarDriver zentar(home, ZentarDriver::Start::FirstRun);
-    const HWND help = zentar.WaitForWindow("ZentarForm", "Zentar Help");
+    const HWND help = zentar.WaitForForm("Zentar Help");
     EXPECT_SOON(TextOf(FindControl(help, IDC_labHeader)),
                 "     Author Details And Program Legal Information");
-    EXPECT_FALSE(IsWindowEnabled(zentar.Main()));
+    EXPECT_SOON(IsWindowEnabled(zentar.Main()), FALSE);
     EXPECT_FALSE(zentar.HasBox());
     PostMessageW(help, WM_CLOSE, 0, 0);
     const HWND welcome = zentar.WaitForBox("Welcome");

@@ -45,11 +45,11 @@ class TabOrder : public ShotsWindowTest {
     HWND Step(bool backwards) const {
         const HWND before = zentar_->Focused();
         if (backwards) {
-            PressWith(VK_SHIFT, VK_TAB);
+            zentar_->PressKeyWith(VK_SHIFT, VK_TAB);
         } else {
-            Press(VK_TAB);
+            zentar_->PressKey(VK_TAB);
         }
-        Eventually([&] { return zentar_->Focused() != before; }, std::chrono::seconds(2));
+        EXPECT_TRUE(Eventually([&] { return zentar_->Focused() != before; }));
         return zentar_->Focused();
     }
 
@@ -116,7 +116,7 @@ TEST_F(TabOrder, OfShotsAndDemosIsTheReadingOrder) {
     ExpectWalk(
         {"Demos", "List all available demos.", "contain", "Phrase", "Go", "Pre-made phrases"});
     // The filter is disabled while all demos are listed.
-    PressWith(VK_MENU, 'L');
+    zentar_->PressKeyWith(VK_MENU, 'L');
     EXPECT_SOON(zentar_->Usable(IDC_cmdFilter), false);
     zentar_->ShowTab(kShotsTab);
     ShowTab(kDemosTab);
@@ -143,7 +143,7 @@ TEST_F(TabOrder, OfMiscIsTheReadingOrder) {
     ExpectWalk(expected);
     // "Clear" waits for a name.
     zentar_->ClickOn(IDC_txtPlayer1);
-    Type("Fish");
+    zentar_->TypeText("Fish");
     EXPECT_SOON(zentar_->Usable(IDC_cmdClearNames), true);
     EXPECT_EQ(NamesOf({Step(true)}), Stops{"Clear"});
     EXPECT_EQ(NamesOf({Step(true)}), Stops{"Scan For Names"});
@@ -170,9 +170,9 @@ TEST_F(TabOrder, OfQ3TextAndFirstAidIsTheReadingOrder) {
     expected.insert(expected.end(), {"Open...", last});
     ExpectWalk(expected);
     // What works on a text waits for one.
-    Press(VK_TAB);
+    zentar_->PressKey(VK_TAB);
     EXPECT_TRUE(zentar_->GetsFocus(IDC_rtbQ3Text));
-    Type("Fox");
+    zentar_->TypeText("Fox");
     EXPECT_SOON(zentar_->Usable(IDC_cmdQ3TextSave), true);
     Step(true);
     FocusOnTabs();
@@ -192,7 +192,7 @@ TEST_F(TabOrder, OfQ3TextAndFirstAidIsTheReadingOrder) {
 TEST_F(TabOrder, OfTheOtherWindowsIsTheReadingOrder) {
     Open();
     zentar_->OpenMenuEntry('P', 'P');
-    const HWND preferences = zentar_->WaitForWindow("ZentarForm", "Preferences");
+    const HWND preferences = zentar_->WaitForForm("Preferences");
     EXPECT_SOON(zentar_->Focused(), FindControl(preferences, IDC_txtRemote));
     ExpectWalk(preferences,
                {"Select the Remote Folder",
@@ -201,25 +201,22 @@ TEST_F(TabOrder, OfTheOtherWindowsIsTheReadingOrder) {
                 "Automatically select the next screenshot or image after deleting the current.",
                 "Automatically select the next demo after deleting the current.", "Preferences",
                 "Location of Remote Folder"});
-    Press(VK_ESCAPE);
-    EXPECT_SOON(IsWindowVisible(preferences), FALSE);
+    zentar_->LeaveBy(VK_ESCAPE, preferences);
     // The keyboard is back where it was.
     FocusOnTabs();
 
     View("quake00.tga", 0);
-    zentar_->PressKey(VK_F2);
-    const HWND box = zentar_->WaitForWindow("ZentarForm", "Rename Screenshot");
+    const HWND box = zentar_->OpenForm(VK_F2, "Rename Screenshot");
     EXPECT_SOON(zentar_->Focused(), FindControl(box, 1002));
     ExpectWalk(box, {"OK", "Cancel",
                      "Enter new name for \"quake00\".\r\n\r\n(Do not type the extension)."});
-    Press(VK_ESCAPE);
+    zentar_->PressKey(VK_ESCAPE);
     EXPECT_TRUE(zentar_->GetsFocus(IDC_lstScreenshots));
 
-    zentar_->PressKey(VK_F1);
-    const HWND help = zentar_->WaitForWindow("ZentarForm", "Zentar Help");
+    const HWND help = zentar_->OpenForm(VK_F1, "Zentar Help");
     EXPECT_SOON(zentar_->Focused(), FindControl(help, IDC_lstQuestions));
-    Press(VK_DOWN);
-    Press(VK_RETURN);
+    zentar_->PressKey(VK_DOWN);
+    zentar_->PressKey(VK_RETURN);
     EXPECT_SOON(zentar_->Focused(), FindControl(help, IDC_cmdBack));
     ExpectWalk(help, {"Answer", "Back"});
 }
@@ -229,15 +226,16 @@ TEST_F(TabOrder, CtrlTabTurnsThePages) {
     const HWND tabs = zentar_->Control(IDC_SSTab1);
     const auto selected = [tabs] { return static_cast<int>(Send(tabs, TCM_GETCURSEL)); };
     for (const int tab : {kDemosTab, kMiscTab, kQ3TextTab, kFirstAidTab, kShotsTab}) {
-        PressWith(VK_CONTROL, VK_TAB);
+        zentar_->PressKeyWith(VK_CONTROL, VK_TAB);
         EXPECT_SOON(selected(), tab);
     }
-    HoldKey(VK_CONTROL);
-    for (const int tab : {kFirstAidTab, kQ3TextTab, kMiscTab, kDemosTab, kShotsTab}) {
-        PressWith(VK_SHIFT, VK_TAB);
-        EXPECT_SOON(selected(), tab);
+    {
+        const HeldKey control(VK_CONTROL);
+        for (const int tab : {kFirstAidTab, kQ3TextTab, kMiscTab, kDemosTab, kShotsTab}) {
+            zentar_->PressKeyWith(VK_SHIFT, VK_TAB);
+            EXPECT_SOON(selected(), tab);
+        }
     }
-    ReleaseKey(VK_CONTROL);
     // The arrow keys do it on the tabs themselves, without going around.
     for (const int tab : {kDemosTab, kMiscTab, kQ3TextTab, kFirstAidTab, kFirstAidTab}) {
         zentar_->PressKey(VK_RIGHT);
@@ -246,9 +244,9 @@ TEST_F(TabOrder, CtrlTabTurnsThePages) {
     zentar_->PressKey(VK_LEFT);
     EXPECT_SOON(selected(), static_cast<int>(kQ3TextTab));
     // From inside a page the keyboard goes to the tabs: what had it has gone.
-    Press(VK_TAB);
+    zentar_->PressKey(VK_TAB);
     EXPECT_TRUE(zentar_->GetsFocus(IDC_rtbQ3Text));
-    PressWith(VK_CONTROL, VK_TAB);
+    zentar_->PressKeyWith(VK_CONTROL, VK_TAB);
     EXPECT_SOON(selected(), static_cast<int>(kFirstAidTab));
     FocusOnTabs();
 }

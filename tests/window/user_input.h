@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <thread>
 
 namespace zentar::window_tests {
 
@@ -16,17 +17,32 @@ POINT CentreOfItem(HWND listBox, int index);
 void ScrollTo(HWND listBox, int index);
 
 void MovePointer(POINT place);
+// Twice at one place is never a double click.
 void Click(POINT place, MouseButton button = MouseButton::Left);
 void DoubleClick(POINT place);
 
 void Press(WORD key);
 void PressWith(WORD modifier, WORD key);
-// Keeps a key down, and lets it go.
-void HoldKey(WORD key);
-void ReleaseKey(WORD key);
 // Keeps the left button down at a place, moves to others, and lets it go.
 void HoldButton(POINT place);
 void ReleaseButton();
 void Type(const std::string& text);
+// Replaces what a text box holds; throws std::runtime_error when it does not take it.
+void TypeOver(HWND textBox, const std::string& text);
+
+// A key that is kept down for as long as this stands. Like the keyboard's, it repeats itself:
+// Wine lets go of a key that the display does not know to be down whenever another window comes to
+// the front or the pointer arrives at one.
+class HeldKey {
+  public:
+    explicit HeldKey(WORD key);
+    ~HeldKey();
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+
+  private:
+    WORD key_;
+    std::jthread repeats_;
+};
 
 }  // namespace zentar::window_tests

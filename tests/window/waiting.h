@@ -7,7 +7,9 @@
 namespace zentar::window_tests {
 
 // Generous: a loaded machine must not fail a test.
-inline constexpr std::chrono::seconds kPatience{15};
+inline constexpr std::chrono::seconds kPatience{30};
+// What did not come after this time is asked for once more.
+inline constexpr std::chrono::seconds kBeforeTryingAgain{5};
 
 // Asks again and again until the condition gives something true, and gives that; its last answer
 // when it never does.

@@ -40,6 +40,7 @@ MenuLine WindowProbe::LookAt(HWND window, int id, HMENU menu) const {
     return {.exists = true,
             .enabled = (state & (MF_GRAYED | MF_DISABLED)) == 0,
             .checked = (state & MF_CHECKED) != 0,
+            .selected = (state & MF_HILITE) != 0,
             .caption = Narrow(answer_->text)};
 }
 

@@ -13,6 +13,7 @@ struct MenuLine {
     bool exists = false;
     bool enabled = false;
     bool checked = false;
+    bool selected = false;
     std::string caption;
 };
 

@@ -1,5 +1,7 @@
 #include "tests/window/windows_of.h"
 
+#include <algorithm>
+#include <functional>
 #include <stdexcept>
 
 #include "platform/win32/win32_text.h"
@@ -9,7 +11,7 @@ namespace zentar::window_tests {
 
 namespace {
 
-constexpr UINT kSendPatienceMs = 15'000;
+constexpr auto kSendPatienceMs = static_cast<UINT>(std::chrono::milliseconds(kPatience).count());
 
 BOOL CALLBACK Collect(HWND window, LPARAM list) {
     reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
@@ -33,6 +35,63 @@ std::string ItemText(HWND listBox, WPARAM index) {
     return Narrow(text);
 }
 
+// The window that was found ready last. While it stays in front there is nothing to wait for.
+HWND& LastReady() {
+    static HWND window = nullptr;
+    return window;
+}
+
+bool TakesInput(HWND window) {
+    const std::string kind = ClassOf(window);
+    return kind != kMenuClass && kind != kTooltipClass && IsWindowEnabled(window) != FALSE &&
+           IsIconic(window) == FALSE;
+}
+
+// The one in front, or the one that should come there; null when there is none.
+HWND FrontOf(DWORD process) {
+    const HWND front = GetForegroundWindow();
+    if (BelongsTo(front, process) && TakesInput(front)) {
+        return front;
+    }
+    const std::vector<HWND> windows = TopWindows(process);
+    const auto first = std::find_if(windows.begin(), windows.end(), TakesInput);
+    return first == windows.end() ? nullptr : *first;
+}
+
+// Waits until the wanted window, which may be another one each time, has been in front at the same
+// place for a while; at once if none is wanted any more.
+void WaitForCalm(const std::function<HWND()>& wanted) {
+    constexpr int kLooks = 4;
+    int calm = 0;
+    HWND last = nullptr;
+    RECT place{};
+    auto tried = std::chrono::steady_clock::now();
+    const bool isCalm = Eventually([&] {
+        const HWND window = wanted();
+        if (window == nullptr) {
+            return true;
+        }
+        // The program hears of the display's news before it answers.
+        Send(window, WM_NULL);
+        RECT area{};
+        GetWindowRect(window, &area);
+        const bool inFront = GetForegroundWindow() == window;
+        calm = inFront && window == last && EqualRect(&area, &place) ? calm + 1 : 0;
+        last = window;
+        place = area;
+        const auto now = std::chrono::steady_clock::now();
+        if (!inFront && now - tried > kBeforeTryingAgain) {
+            SetForegroundWindow(window);
+            tried = now;
+        }
+        return calm >= kLooks;
+    });
+    if (!isCalm) {
+        throw std::runtime_error("the keyboard never comes to \"" + TextOf(last) + '"');
+    }
+    LastReady() = last;
+}
+
 }  // namespace
 
 HWND Found(HWND window, const std::string& what) {
@@ -42,11 +101,27 @@ HWND Found(HWND window, const std::string& what) {
     return window;
 }
 
+bool IsGone(HWND window) { return IsWindow(window) == FALSE || IsWindowVisible(window) == FALSE; }
+
 void WaitUntilGone(HWND window) {
-    const bool gone = Eventually(
-        [window] { return IsWindow(window) == FALSE || IsWindowVisible(window) == FALSE; });
-    if (!gone) {
-        throw std::runtime_error("a window stays: " + ClassOf(window));
+    if (!Eventually([window] { return IsGone(window); })) {
+        throw std::runtime_error("a window stays: " + ClassOf(window) + " \"" + TextOf(window) +
+                                 '"');
+    }
+}
+
+HWND Ready(HWND window) {
+    if (GetForegroundWindow() != window || LastReady() != window) {
+        // Where another one waits for an answer, this one gets no keyboard.
+        WaitForCalm([window] { return TakesInput(window) ? window : nullptr; });
+    }
+    return window;
+}
+
+void WaitForKeyboard(DWORD process) {
+    const HWND front = GetForegroundWindow();
+    if (front != LastReady() || !BelongsTo(front, process) || !TakesInput(front)) {
+        WaitForCalm([process] { return FrontOf(process); });
     }
 }
 

@@ -8,10 +8,13 @@
 
 namespace zentar::window_tests {
 
-// The classes of the program's own windows, and of the dialogs and menus of the system.
+// The classes of the program's own windows, and of what the system has.
 inline constexpr char kFormClass[] = "ZentarForm";
 inline constexpr char kDialogClass[] = "#32770";
 inline constexpr char kMenuClass[] = "#32768";
+inline constexpr char kTooltipClass[] = "tooltips_class32";
+
+// Functions that wait throw std::runtime_error when what they wait for never comes.
 
 // The window; throws std::runtime_error, which tells what was never seen, when there is none.
 HWND Found(HWND window, const std::string& what);
@@ -26,8 +29,16 @@ std::vector<HWND> Descendants(HWND window);
 // The control with a number, however deep it lies; null when there is none.
 HWND FindControl(HWND window, int id);
 
-// Waits until a window is gone, or hidden.
+// Whether a window is gone, or hidden.
+bool IsGone(HWND window);
+// Waits until it is.
 void WaitUntilGone(HWND window);
+
+// Waits until a window that has come has the keyboard and stands still: the window manager moves
+// it, and may take the keyboard away once more, some time after it can be seen. Gives the window.
+HWND Ready(HWND window);
+// The same, for whichever window of a process is in front, after another one of it has gone.
+void WaitForKeyboard(DWORD process);
 
 std::string ClassOf(HWND window);
 std::string TextOf(HWND window);

@@ -6,10 +6,10 @@
 #include <stdexcept>
 
 #include "platform/win32/win32_text.h"
+#include "screenshots/shot_name.h"
 #include "tests/window/user_input.h"
 #include "tests/window/waiting.h"
 #include "tests/window/windows_of.h"
-#include "ui/form_tables.h"
 #include "ui/resource.h"
 
 namespace zentar::window_tests {
@@ -25,10 +25,12 @@ ZentarDriver::ZentarDriver(const ZentarHome& home, Start start)
     : program_(home.Program() / "zentar.exe") {
     main_ = Found(Eventually([this] { return FindTop(Process(), kFormClass, "Zentar"); }),
                   "the main window");
-    SetForegroundWindow(main_);
     probe_ = std::make_unique<WindowProbe>(program_.Thread());
     if (start == Start::Normal) {
-        GetsFocus(IDC_SSTab1);
+        Ready(main_);
+        if (!GetsFocus(IDC_SSTab1)) {
+            throw std::runtime_error("the tabs never get the keyboard");
+        }
         Settle();
     }
 }
@@ -92,20 +94,36 @@ void ZentarDriver::Settle() const {
 }
 
 void ZentarDriver::ClickOn(int id) const {
+    WaitForKeyboard(Process());
     Click(CentreOf(Control(id)));
     Settle();
 }
 
+void ZentarDriver::ClickIn(HWND window, int id) const {
+    Ready(window);
+    Click(CentreOf(Found(FindControl(window, id), "control " + std::to_string(id))));
+    Settle();
+}
+
 int ZentarDriver::IndexOf(int listBox, const std::string& item) const {
-    const std::vector<std::string> items = Items(listBox);
-    const auto at = std::find(items.begin(), items.end(), item);
-    if (at == items.end()) {
+    int index = -1;
+    const bool holdsIt = Eventually([&] {
+        Settle();
+        const std::vector<std::string> items = Items(listBox);
+        const auto at = std::find_if(items.begin(), items.end(), [&](const std::string& entry) {
+            return ShotOfEntry(entry) == ShotOfEntry(item);
+        });
+        index = static_cast<int>(at - items.begin());
+        return at != items.end();
+    });
+    if (!holdsIt) {
         throw std::runtime_error("the list does not hold \"" + item + "\"");
     }
-    return static_cast<int>(at - items.begin());
+    return index;
 }
 
 void ZentarDriver::ClickItem(int listBox, const std::string& item) const {
+    WaitForKeyboard(Process());
     const HWND list = Control(listBox);
     const int index = IndexOf(listBox, item);
     ScrollTo(list, index);
@@ -114,7 +132,21 @@ void ZentarDriver::ClickItem(int listBox, const std::string& item) const {
 }
 
 void ZentarDriver::PressKey(WORD key) const {
+    WaitForKeyboard(Process());
     Press(key);
+    Settle();
+}
+
+void ZentarDriver::PressKeyWith(WORD modifier, WORD key) const {
+    WaitForKeyboard(Process());
+    Settle();
+    PressWith(modifier, key);
+    Settle();
+}
+
+void ZentarDriver::TypeText(const std::string& text) const {
+    WaitForKeyboard(Process());
+    Type(text);
     Settle();
 }
 
@@ -123,7 +155,7 @@ void ZentarDriver::RepeatKey(WORD key) const {
     // another window comes to the front.
     constexpr LPARAM kWasDown = LPARAM{1} << 30U;
     for (int repetition = 0; repetition < 3; ++repetition) {
-        PostMessageW(Focused(), WM_KEYDOWN, key, kWasDown | 1);
+        PostMessageW(Found(Focused(), "the focus"), WM_KEYDOWN, key, kWasDown | 1);
         Settle();
     }
 }
@@ -131,33 +163,87 @@ void ZentarDriver::RepeatKey(WORD key) const {
 void ZentarDriver::ShowTab(int index) const {
     const HWND tabs = Control(IDC_SSTab1);
     const auto selected = [tabs] { return static_cast<int>(Send(tabs, TCM_GETCURSEL)); };
-    while (selected() != index) {
+    Ready(main_);
+    const bool shown = Eventually([&] {
         const int before = selected();
-        PressWith(VK_CONTROL, VK_TAB);
-        if (!Eventually([&] { return selected() != before; })) {
-            throw std::runtime_error("the tabs do not change");
+        if (before != index) {
+            PressKeyWith(VK_CONTROL, VK_TAB);
+            Eventually([&] { return selected() != before; }, kBeforeTryingAgain);
         }
+        return selected() == index;
+    });
+    if (!shown) {
+        throw std::runtime_error("the tabs do not change");
     }
     Settle();
 }
 
-void ZentarDriver::OpenMenuEntry(char menu, char entry) const {
-    // After a dialog the keyboard comes back a moment later than the dialog goes.
-    Eventually([this] { return Keyboard().hwndActive == main_; });
+HWND ZentarDriver::OpenMenu(char menu) const {
+    const auto opened = [this] { return FindTop(Process(), kMenuClass); };
+    return Found(Eventually([&]() -> HWND {
+                     Ready(main_);
+                     PressKeyWith(VK_MENU, static_cast<WORD>(menu));
+                     const HWND window = Eventually(opened, kBeforeTryingAgain);
+                     if (window == nullptr && (Keyboard().flags & GUI_INMENUMODE) != 0) {
+                         Press(VK_ESCAPE);
+                     }
+                     return window;
+                 }),
+                 "the menu");
+}
+
+void ZentarDriver::CloseMenu(HWND menu) const {
+    ClosePopup(menu);
+    Press(VK_ESCAPE);
     Settle();
-    PressWith(VK_MENU, static_cast<WORD>(menu));
-    Found(Eventually([this] { return FindTop(Process(), kMenuClass); }), "the menu");
+}
+
+void ZentarDriver::OpenMenuEntry(char menu, char entry) const {
+    const HWND opened = OpenMenu(menu);
     Press(static_cast<WORD>(entry));
-    Eventually([this] { return FindTop(Process(), kMenuClass) == nullptr; });
+    WaitUntilGone(opened);
+}
+
+void ZentarDriver::LeaveBy(WORD key, HWND window) const {
+    Ready(window);
+    const bool left = Eventually([&] {
+        PressKey(key);
+        return Eventually([window] { return IsGone(window); }, kBeforeTryingAgain);
+    });
+    if (!left) {
+        throw std::runtime_error("the key does not close \"" + TextOf(window) + '"');
+    }
+    WaitUntilLeft(window);
+}
+
+void ZentarDriver::WaitUntilLeft(HWND window) const {
+    WaitUntilGone(window);
+    Settle();
+    WaitForKeyboard(Process());
 }
 
 HWND ZentarDriver::WaitForWindow(const std::string& windowClass, const std::string& title) const {
-    return Found(Eventually([&] { return FindTop(Process(), windowClass, title); }),
-                 "the window \"" + title + "\"");
+    const HWND window = Found(Eventually([&] { return FindTop(Process(), windowClass, title); }),
+                              "the window \"" + title + "\"");
+    Ready(window);
+    Settle();
+    return window;
 }
 
-HWND ZentarDriver::WaitForBox(const std::string& title) const {
-    return WaitForWindow(kDialogClass, title);
+HWND ZentarDriver::OpenForm(WORD key, const std::string& title) const {
+    const auto opened = [&] { return FindTop(Process(), kFormClass, title); };
+    Eventually([&] {
+        PressKey(key);
+        return Eventually(opened, kBeforeTryingAgain);
+    });
+    return WaitForForm(title);
+}
+
+void ZentarDriver::AnswerInputBox(const std::string& title, const std::string& text) const {
+    const HWND box = WaitForForm(title);
+    const HWND edit = FindWindowExW(box, nullptr, L"Edit", nullptr);
+    TypeOver(edit, text);
+    LeaveBy(VK_RETURN, box);
 }
 
 HWND ZentarDriver::WaitForPicker(const std::string& title) const {
@@ -168,7 +254,7 @@ HWND ZentarDriver::WaitForPicker(const std::string& title) const {
                                        [&](HWND child) { return TextOf(child) == title; });
         return found ? picker : nullptr;
     };
-    return Found(Eventually(shownTitle), "the folder picker \"" + title + "\"");
+    return Ready(Found(Eventually(shownTitle), "the folder picker \"" + title + "\""));
 }
 
 void ZentarDriver::PickFolder(const std::string& title, const std::filesystem::path& folder) const {
@@ -190,16 +276,28 @@ void ZentarDriver::PickFolder(const std::string& title, const std::filesystem::p
 
 bool ZentarDriver::HasBox() const { return FindTop(Process(), kDialogClass) != nullptr; }
 
+HWND ZentarDriver::OpenPopupAt(POINT place) const {
+    WaitForKeyboard(Process());
+    return Found(Eventually([&]() -> HWND {
+                     Click(place, MouseButton::Right);
+                     Settle();
+                     return Eventually([this] { return FindTop(Process(), kMenuClass); },
+                                       kBeforeTryingAgain);
+                 }),
+                 "the popup menu");
+}
+
 HWND ZentarDriver::OpenPopup(int listBox, const std::string& item) const {
-    Click(CentreOfItem(Control(listBox), IndexOf(listBox, item)), MouseButton::Right);
-    return WaitForWindow(kMenuClass, "");
+    const HWND list = Control(listBox);
+    const int index = IndexOf(listBox, item);
+    ScrollTo(list, index);
+    return OpenPopupAt(CentreOfItem(list, index));
 }
 
 HWND ZentarDriver::OpenPopupBelowItems(int listBox) const {
     RECT area{};
     GetWindowRect(Control(listBox), &area);
-    Click({area.left + 20, area.bottom - 20}, MouseButton::Right);
-    return WaitForWindow(kMenuClass, "");
+    return OpenPopupAt({area.left + 20, area.bottom - 20});
 }
 
 MenuLine ZentarDriver::PopupLine(HWND popup, int id) const {
@@ -223,15 +321,14 @@ void ZentarDriver::ChooseCommand(int listBox, const std::string& item, int comma
 }
 
 void ZentarDriver::WalkTo(HWND popup, int command) const {
-    const auto menus = MainWindowTable().menus;
-    const auto wanted = std::find_if(menus.begin(), menus.end(),
-                                     [command](const MenuRow& row) { return row.id == command; });
-    for (auto row = menus.begin(); row != wanted; ++row) {
-        if (row->parent == wanted->parent && row->kind != MenuKind::Separator) {
-            Press(VK_DOWN);
-        }
+    constexpr int kMostEntries = 40;
+    for (int step = 0; step < kMostEntries && !PopupLine(popup, command).selected; ++step) {
+        Press(VK_DOWN);
+        Settle();
     }
-    Press(VK_DOWN);
+    if (!PopupLine(popup, command).selected) {
+        throw std::runtime_error("the arrow keys do not reach command " + std::to_string(command));
+    }
     Press(VK_RETURN);
     WaitUntilGone(popup);
 }

@@ -10,6 +10,7 @@
 #include "tests/window/message_box.h"
 #include "tests/window/started_program.h"
 #include "tests/window/window_probe_client.h"
+#include "tests/window/windows_of.h"
 #include "tests/window/zentar_home.h"
 
 namespace zentar::window_tests {
@@ -51,21 +52,40 @@ class ZentarDriver {
 
     // Comes back once the program has handled all input so far and waits for more.
     void Settle() const;
-    // The user's ways to do it; each waits until the program has dealt with it.
+    // The user's ways to do it; each waits until the program has dealt with it. What takes the
+    // keyboard waits for that first, and what takes an entry waits until the list holds it. These
+    // and the others below throw std::runtime_error when what they wait for never comes.
     void ClickOn(int id) const;
+    // A control of another window of the program.
+    void ClickIn(HWND window, int id) const;
     void ClickItem(int listBox, const std::string& item) const;
     void PressKey(WORD key) const;
+    void PressKeyWith(WORD modifier, WORD key) const;
+    void TypeText(const std::string& text) const;
     // What comes of keeping it down.
     void RepeatKey(WORD key) const;
     // A tab of the main window, by its position.
     void ShowTab(int index) const;
-    // Alt and a letter, then the entry's letter.
+    // Alt and a letter; gives the menu's window.
+    HWND OpenMenu(char menu) const;
+    // Leaves the menu bar as well.
+    void CloseMenu(HWND menu) const;
+    // Opens a menu and picks an entry by its letter.
     void OpenMenuEntry(char menu, char entry) const;
+    // Closes a window by a key, Enter or Escape for instance.
+    void LeaveBy(WORD key, HWND window) const;
+    // Waits until a window has gone and another one of the program has the keyboard.
+    void WaitUntilLeft(HWND window) const;
 
-    // Waits for a window: a dialog of the program, a message box, an opened menu. These and the
-    // ways of a user above throw std::runtime_error when what they wait for never comes.
+    // Waits for a window: a dialog of the program, a message box, an opened menu. It is ready for
+    // the user then.
     HWND WaitForWindow(const std::string& windowClass, const std::string& title) const;
-    HWND WaitForBox(const std::string& title) const;
+    HWND WaitForForm(const std::string& title) const { return WaitForWindow(kFormClass, title); }
+    HWND WaitForBox(const std::string& title) const { return WaitForWindow(kDialogClass, title); }
+    // Presses a key that opens one of the program's own windows.
+    HWND OpenForm(WORD key, const std::string& title) const;
+    // Waits for an input box that asks for a text, replaces the one in it, and presses Enter.
+    void AnswerInputBox(const std::string& title, const std::string& text) const;
     BoxContents Read(HWND box) const { return ReadBox(box, *probe_); }
     bool HasBox() const;
     // The system's folder picker, which shows `title` above the folders.
@@ -95,7 +115,11 @@ class ZentarDriver {
 
   private:
     GUITHREADINFO Keyboard() const;
+    // Waits until the list holds the entry. The marker of a shot may come and go meanwhile, so it
+    // does not count.
     int IndexOf(int listBox, const std::string& item) const;
+    // Clicks with the right button until a menu opens.
+    HWND OpenPopupAt(POINT place) const;
 
     StartedProgram program_;
     HWND main_ = nullptr;

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "platform/win32/win32_text.h"
@@ -17,12 +16,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// An earlier run that was killed may have left one of the same name.
 fs::path NewFolder() {
     static int made = 0;
-    const fs::path folder =
-        fs::temp_directory_path() / ("zentar window test " + std::to_string(GetCurrentProcessId()) +
-                                     " " + std::to_string(++made));
-    fs::create_directories(folder);
+    const std::string name = "zentar window test " + std::to_string(GetCurrentProcessId()) + " ";
+    fs::path folder;
+    do {
+        folder = fs::temp_directory_path() / (name + std::to_string(++made));
+    } while (!fs::create_directories(folder));
     return folder;
 }
 
@@ -114,8 +115,22 @@ std::string ZentarHome::WholeIni(const IniLines& others) const {
 std::string FolderText(const fs::path& folder) { return Narrow(folder.wstring()) + "\\"; }
 
 std::string ReadBytes(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    // Whoever writes, renames or deletes the file meanwhile is not kept from it.
+    const HANDLE handle = CreateFileW(file.c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, 0, nullptr);
+    std::string bytes;
+    DWORD read = 0;
+    do {
+        constexpr DWORD kBlock = 65'536;
+        const std::size_t before = bytes.size();
+        bytes.resize(before + kBlock);
+        read = 0;
+        ReadFile(handle, bytes.data() + before, kBlock, &read, nullptr);
+        bytes.resize(before + read);
+    } while (read != 0);
+    CloseHandle(handle);
+    return bytes;
 }
 
 void WriteBytes(const fs::path& file, const std::string& bytes) {
