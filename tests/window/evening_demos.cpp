@@ -86,24 +86,26 @@ void EveningTest::DeleteDemoByKey(const EveningGame& game, const std::string& en
     zentar_->Settle();
 }
 
-void EveningTest::CopyDemo(const EveningGame& game, const std::string& entry) {
-    const std::string file = DemoFile(game, entry);
-    const std::string name = file.substr(game.demos.size());
-    DemoCommand(entry, IDM_mnuDemosCopy);
+std::string EveningTest::SendToRemote(const EveningGame& game, const std::string& entry,
+                                      int command) {
+    const std::string name = DemoFile(game, entry).substr(game.demos.size());
+    DemoCommand(entry, command);
     Confirm();
     AgreeToReplace(name);
-    EXPECT_SOON(Stands("Remote/" + name), true);
-    expected_["Remote/" + name] = expected_.at(file);
+    return "Remote/" + name;
+}
+
+void EveningTest::CopyDemo(const EveningGame& game, const std::string& entry) {
+    const std::string copy = SendToRemote(game, entry, IDM_mnuDemosCopy);
+    EXPECT_SOON(Stands(copy), true);
+    expected_[copy] = expected_.at(DemoFile(game, entry));
 }
 
 void EveningTest::MoveDemo(const EveningGame& game, const std::string& entry) {
     const std::string file = DemoFile(game, entry);
-    const std::string name = file.substr(game.demos.size());
-    DemoCommand(entry, IDM_mnuDemosMove);
-    Confirm();
-    AgreeToReplace(name);
+    const std::string moved = SendToRemote(game, entry, IDM_mnuDemosMove);
     EXPECT_SOON(Stands(file), false);
-    Moves(file, "Remote/" + name);
+    Moves(file, moved);
     zentar_->Settle();
 }
 

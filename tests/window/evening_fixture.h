@@ -81,6 +81,8 @@ class EveningTest : public ShotsWindowTest {
     void FilterBy(const std::string& phrase);
     void ExpectListed(const EveningGame& game, const std::string& phrase, bool contained);
     void DeleteDemoByKey(const EveningGame& game, const std::string& entry, WORD key);
+    // Copies or moves a demo; gives the path that it then has.
+    std::string SendToRemote(const EveningGame& game, const std::string& entry, int command);
     void CopyDemo(const EveningGame& game, const std::string& entry);
     void MoveDemo(const EveningGame& game, const std::string& entry);
     void RenameAndDeleteDemos();

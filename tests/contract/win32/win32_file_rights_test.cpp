@@ -13,6 +13,7 @@
 
 #include "core/atomic_file.h"
 #include "platform/win32/win32_file_system.h"
+#include "platform/win32/win32_handle.h"
 
 namespace zentar {
 namespace {
@@ -69,6 +70,18 @@ TEST_F(Win32FileRights, StayWithTheNameWhenItsFileIsReplaced) {
     EXPECT_EQ(Rights(path), given);
     ASSERT_TRUE(ReplaceFileContents(files, other.string(), "newer").Ok());
     EXPECT_NE(Rights(other), given);
+}
+
+TEST_F(Win32FileRights, OfAFileThatCannotTakeThePlaceStayItsOwn) {
+    ASSERT_TRUE(ReplaceFileContents(files, path.string(), "old").Ok());
+    ASSERT_TRUE(ReplaceFileContents(files, other.string(), "new").Ok());
+    ASSERT_TRUE(GiveToEverybody(path));
+    const std::string own = Rights(other);
+    ASSERT_NE(own, Rights(path));
+    const UniqueFile held(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    EXPECT_EQ(files.Replace(other.string(), path.string()).Error(), FileError::InUse);
+    EXPECT_EQ(Rights(other), own);
 }
 
 }  // namespace
