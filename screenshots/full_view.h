@@ -26,6 +26,7 @@ class FullView {
 
   private:
     bool IsDraggable() const;
+    // Moves the image as far as the drag goes; gives the drag as it is then.
     Drag Pull(const Drag& before, Point to);
 
     Form& Form3_;
